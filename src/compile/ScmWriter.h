@@ -1,0 +1,32 @@
+// The one writer of generated source text: it owns every byte of line ends, numbers and blanks. Compilers say
+// what a number is, not how it prints.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace landsmith {
+
+class ScmWriter {
+public:
+  ScmWriter& Text(std::string_view text);  ///< UTF-8, as it stands
+  ScmWriter& Integer(std::int64_t value);  ///< plain decimal, no padding
+  /// At least two digits, "00".
+  ScmWriter& TwoDigits(std::int64_t value);
+  ScmWriter& Fixed(double value, int decimals);
+  ScmWriter& Shortest(double value);
+  ScmWriter& EndLine();  ///< CR LF
+  ScmWriter& Line(std::string_view text) { return Text(text).EndLine(); }
+  ScmWriter& EmptyLine() { return EndLine(); }
+
+  /// The text in UTF-8; files are written in Windows-1252.
+  const std::string& Content() const { return m_text; }
+  std::string Take() { return std::move(m_text); }
+
+private:
+  std::string m_text;
+};
+
+}  // namespace landsmith

@@ -1,0 +1,48 @@
+// Cutting lines along the Cells: the runs of one line, Cell by Cell, in points of the Cell.
+//
+// A line appears only in Cells that hold one of its vertices; a run starts one vertex before it enters and
+// ends one vertex after it leaves, so that the pieces of neighbouring Cells overlap by a whole segment and
+// the road has no gap. Points are relative to the run's own Cell and may lie outside 4080..12240.
+#pragma once
+
+#include "core/Grid.h"
+#include "core/Records.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace landsmith {
+
+struct RunPoint {
+  std::int32_t X = 0, Y = 0;
+  float Wid = 0;          ///< metres
+  std::uint8_t Kind = 0;  ///< 8: a step from the point before; else absolute, with so many steps behind it
+  std::uint8_t WidthByte = 0;  ///< 0: the width goes on as it was
+  bool operator==(const RunPoint&) const = default;
+};
+
+struct LineRun {
+  std::string Name;
+  std::int32_t TexId = 0;
+  std::int32_t Layer = 0;
+  std::int32_t CellX = 0, CellY = 0;
+  std::vector<RunPoint> Points;  ///< the first and the last slot are free for the ends until AddLineEnds
+};
+
+/// Every vertex to the lattice of Points; one that then equals its predecessor goes. May leave a single
+/// vertex.
+std::vector<LinePoint> SnapLinePoints(const std::vector<LinePoint>& points);
+
+/// The runs of one line, by Cell row from the north, then column from the west, then place on the line.
+/// `points`: snapped, 2 or more. Linear in the vertices and the runs; a Cell without a vertex costs nothing.
+std::vector<LineRun> ClipLineToCells(const std::vector<LinePoint>& points, const std::string& name,
+                                     std::int32_t texId, std::int32_t layer);
+
+/// Makes each end a pair of corners across the strip; 0.10425 turns metres into half a width in points.
+void AddLineEnds(LineRun& run);
+/// Gives each point its Kind and WidthByte: steps of -1022..1022, at most 7 in a row. Throws RuntimeError for
+/// a width that is no byte.
+void PackRunPoints(LineRun& run);
+
+}  // namespace landsmith

@@ -1,0 +1,52 @@
+// The canvas as two surfaces: the base image, kept until the next rebuild, and the overlay on top of it,
+// which is cleared and painted anew while something moves.
+#pragma once
+
+#include "editor/Painters.h"
+#include "editor/Session.h"
+#include "platform/Surface.h"
+
+#include <cstdint>
+
+namespace landsmith {
+
+/// The two surfaces, supplied by the window or by the batch program. Their size is the view's.
+class CanvasSurfaces {
+public:
+  virtual ~CanvasSurfaces() = default;
+  virtual Surface& Base() = 0;
+  virtual Surface& Overlay() = 0;
+  virtual void ClearBase(std::int32_t color) = 0;
+  virtual void ClearOverlay() = 0;  ///< transparent
+  /// Both surfaces are complete and may be shown.
+  virtual void Present() = 0;
+};
+
+/// Canvas colours: a live canvas and one without a project.
+struct CanvasColors {
+  std::int32_t Window = 0xFFFFFF;
+  std::int32_t Workspace = 0xABABAB;
+};
+
+class Display {
+public:
+  Display(Session& session, CanvasSurfaces& surfaces) : m_session(session), m_surfaces(surfaces) {}
+
+  /// Redraws the base image for the layers of the mask; the kind under edit in Line and Poly mode goes to the
+  /// overlay. 0 stands for all layers, without an overlay copy.
+  void RebuildDisplay(int mask);
+  void DisplayAll() { RebuildDisplay(LayerMask::All); }
+  /// Clears the overlay and paints all pending layers.
+  void RedrawOverlay();
+  /// Paints all pending layers without clearing.
+  void PaintOverlay();
+
+  CanvasSurfaces& Surfaces() { return m_surfaces; }
+  CanvasColors Colors;
+
+private:
+  Session& m_session;
+  CanvasSurfaces& m_surfaces;
+};
+
+}  // namespace landsmith

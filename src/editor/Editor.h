@@ -1,0 +1,112 @@
+// The editor without its widgets: takes the window's events in plain form, keeps the mode and the drag,
+// carries out the commands. The window translates events, forwards them, and does what EditorHost says.
+#pragma once
+
+#include "editor/Display.h"
+#include "editor/Edit.h"
+#include "editor/Session.h"
+#include "editor/StatusText.h"
+#include "editor/ToolMode.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace landsmith {
+
+enum class CursorShape { Arrow, Cross, Pan, Zoom, Line, Move, Busy };
+
+/// What a context menu is about; empty for the general menu.
+struct PopupTarget {
+  std::string Kind;                 ///< "Line", "PtInLine", or empty
+  std::string Title;                ///< "Coast road  LINE # 3"
+  std::size_t Item = 0, Point = 0;  ///< 0-based
+  PixelOffset At;
+};
+
+/// What the editor asks of its window.
+class EditorHost {
+public:
+  virtual ~EditorHost() = default;
+  /// Caption, menus, tool buttons, zoom panel and selection state may have changed: the window reads them
+  /// anew.
+  virtual void RefreshUi() = 0;
+  virtual void SetStatus(const StatusPanels& panels) = 0;
+  virtual void SetCursor(CursorShape shape) = 0;
+  virtual void ShowContextMenu(const PopupTarget& target) = 0;
+  /// Opens `frmLinesP` for one line (0-based), or for all selected ones when empty.
+  virtual void ShowLineProperties(std::optional<std::size_t> line) = 0;
+  /// `frmProjectP` on its first tab; true after OK.
+  virtual bool ShowProjectProperties() = 0;
+  virtual int ToolbarHeight() const = 0;
+  virtual int StatusBarHeight() const = 0;
+};
+
+class Editor {
+public:
+  Editor(Session& session, CanvasSurfaces& surfaces, EditorHost& host);
+  ~Editor();
+
+  Display& Canvas() { return m_display; }
+  Session& State() { return m_session; }
+
+  // Events of the canvas.
+  void Resize(std::int32_t width, std::int32_t height);
+  void Press(const PointerInput& in);
+  void Move(const PointerInput& in);
+  void Release(const PointerInput& in);
+  /// `delta`: as the wheel tells it, 120 a notch; small steps are added up.
+  void Wheel(int delta, const PointerInput& in);
+  void KeyDown(const KeyInput& in);
+  void KeyUp(const KeyInput& in);
+  void FocusLost();
+
+  // Commands. Each catches its failures, shows them as one error box, and leaves the project whole.
+  void ChooseMode(ModeId mode);
+  void NewProject(bool atStart = false);  ///< mnuFNew
+  void OpenProjectCommand();              ///< mnuFOpen: question, dialog
+  bool OpenProject(const std::filesystem::path& path);
+  void OpenRecent(std::size_t slot);
+  bool Save();                         ///< mnuFSave
+  bool SaveAs();                       ///< mnuFSaveAs
+  bool MayClose();                     ///< the exit question
+  void Append(std::string_view kind);  ///< the importers of wiring/
+  void SetGrid(int lod);               ///< mnuG0..mnuG19
+  void ToggleShown(LayerKind kind);    ///< mnuVLines ...
+  void ShowAll();                      ///< every kind shown
+  void ZoomAt(PixelOffset at, ZoomStep step);
+  void CenterAt(PixelOffset at);
+  void GoTo(LatLon center);
+  void SelectAll();
+  void DeleteSelected();  ///< with the question of AskDelete
+  void SnapToLod21();
+  void SetClassGridView(bool on);
+  /// The five pages of preferences have been accepted: scales, class window and pictures follow.
+  void SettingsChanged(bool centerChanged);
+
+  bool HasProject() const { return m_session.project.ProjectOpen; }
+  /// Name upper-cased, two blanks, "Landsmith"; or "Landsmith" alone.
+  std::string Caption() const;
+  bool MaySave() const;  ///< after a load or a Save As
+  bool GestureAlive() const { return m_gesture != nullptr; }
+
+private:
+  void EndGesture();
+  void ShowFailure(const std::exception& failure);
+  void ProjectReplaced();
+  void Guard(const std::function<void()>& command);
+
+  Session& m_session;
+  Display m_display;
+  EditorHost& m_host;
+  std::unique_ptr<ToolMode> m_mode;
+  std::unique_ptr<Gesture> m_gesture;
+  int m_wheelRest = 0;
+};
+
+}  // namespace landsmith

@@ -1,0 +1,46 @@
+// What each layer looks like. Every painter reads the project and the view and draws on a Surface; none
+// changes anything but the list of what it drew.
+//
+// A canvas of a million vertices must repaint at once, so painters skip by boxes and by the index, drop what
+// falls on one pixel, and cut long rings to the view before they reach the surface. Where nothing was dropped
+// the picture is the same to the pixel.
+#pragma once
+
+#include "core/Project.h"
+#include "core/Settings.h"
+#include "editor/ToolState.h"
+#include "editor/ViewState.h"
+#include "platform/Surface.h"
+#include "raster/ClassTable.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <vector>
+
+namespace landsmith {
+
+struct PaintInput {
+  const ProjectState& project;
+  const AppSettings& settings;
+  const ViewState& view;
+  const ToolState& tool;
+  const ClassTable& lands;
+  const ClassTable& waters;
+  const std::filesystem::path& bitmaps;  ///< tools/bmps
+};
+
+void DisplayMaps(Surface& surface, const PaintInput& in);
+void DisplayMeshes(Surface& surface, const PaintInput& in);
+void DisplayFills(Surface& surface, const PaintInput& in);
+void DisplayLands(Surface& surface, const PaintInput& in);
+void DisplayWaters(Surface& surface, const PaintInput& in);
+void DisplayPhotos(Surface& surface, const PaintInput& in);
+void DisplayExcludes(Surface& surface, const PaintInput& in);
+/// `drawn`: one byte a polygon, set for what was drawn.
+void DisplayPolys(Surface& surface, const PaintInput& in, std::vector<std::uint8_t>& drawn);
+void DisplayLines(Surface& surface, const PaintInput& in, std::vector<std::uint8_t>& drawn);
+void DisplayObjects(Surface& surface, const PaintInput& in);
+void DisplayGrid(Surface& surface, const PaintInput& in);
+void DisplayAircraft(Surface& surface, const PaintInput& in);
+
+}  // namespace landsmith

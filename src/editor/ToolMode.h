@@ -1,0 +1,53 @@
+// A tool mode is one class that takes plain input and knows nothing of other modes or of the window.
+#pragma once
+
+#include "editor/ToolState.h"
+#include "editor/ViewState.h"
+#include "platform/Surface.h"
+
+#include <memory>
+
+namespace landsmith {
+
+/// Button numbers as the events hold them.
+enum class MouseButton { None = 0, Left = 1, Right = 2, Middle = 4 };
+
+struct PointerInput {
+  PixelOffset at;  ///< from the canvas centre
+  PixelPoint raw;  ///< from its top left corner
+  MouseButton button = MouseButton::None;
+  bool shift = false;
+  bool ctrl = false;
+};
+
+/// Key codes are the documented ones (46 Delete, 27 Esc, 73 I, 107 numpad plus, ...).
+struct KeyInput {
+  int code = 0;
+  bool shift = false;
+  bool ctrl = false;
+  bool alt = false;
+};
+
+/// A drag. Exactly one of End and Cancel is called: release; or focus lost, mode changed, project replaced.
+class Gesture {
+public:
+  virtual ~Gesture() = default;
+  virtual void Update(const PointerInput& in) = 0;
+  virtual void End(const PointerInput& in) = 0;
+  virtual void Cancel() = 0;
+  /// Drawn on top of the overlay while the drag lasts.
+  virtual void Paint(Surface&) const {}
+};
+
+class ToolMode {
+public:
+  virtual ~ToolMode() = default;
+  /// May return a drag that the canvas then owns.
+  virtual std::unique_ptr<Gesture> Press(const PointerInput& in) = 0;
+  virtual void Hover(const PointerInput&) {}
+  virtual bool Key(const KeyInput&) { return false; }  ///< true: used
+  virtual void Leave() {}                              ///< ends what is half made
+  virtual void Paint(Surface&) const {}                ///< rubber lines
+};
+
+}  // namespace landsmith

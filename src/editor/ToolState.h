@@ -1,0 +1,21 @@
+// The tool at hand and what its gestures keep between events.
+#pragma once
+
+#include "vector/Selection.h"
+
+#include <cstdint>
+
+namespace landsmith {
+
+enum class ModeId { Pointer, Zoom, Map, Mesh, Line, Poly, Object, Exclude, Photo, Land, Water, Fill };
+
+struct ToolState {
+  ModeId Mode = ModeId::Pointer;
+  Selection Selected;
+  bool PanKeyDown = false, ZoomKeyDown = false, CtrlKeyDown = false;
+  bool InsertPoints = false, DeletePoints = false, BreakLine = false, WidthDown = false, WidthUp = false;
+  bool NextClickIsRight = false;
+  bool Dragging = false;  ///< a selection is being moved: painters then leave the drawn flags alone
+};
+
+}  // namespace landsmith

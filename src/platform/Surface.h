@@ -1,0 +1,56 @@
+// What the painters draw on: pens, brushes, polygons, boxes, images. One implementation over Qt serves the
+// window and the pictures of the batch program; tests record the calls.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <span>
+#include <string_view>
+
+namespace landsmith {
+
+/// A pixel of the canvas, from its top left corner, x to the right, y down.
+struct PixelPoint {
+  std::int32_t x = 0;
+  std::int32_t y = 0;
+  bool operator==(const PixelPoint&) const = default;
+};
+
+/// Left and top inside, right and bottom outside.
+struct PixelBox {
+  std::int32_t left = 0;
+  std::int32_t top = 0;
+  std::int32_t right = 0;
+  std::int32_t bottom = 0;
+  bool operator==(const PixelBox&) const = default;
+};
+
+enum class PenStyle { Solid, Dot, None };
+enum class BrushStyle { Solid, DiagonalCross, None };
+
+/// Colours are 0x00BBGGRR. Coordinates may lie outside the surface. Nothing is antialiased.
+class Surface {
+public:
+  virtual ~Surface() = default;
+
+  virtual std::int32_t Width() const = 0;
+  virtual std::int32_t Height() const = 0;
+
+  virtual void SetPen(std::int32_t color, std::int32_t width = 1, PenStyle style = PenStyle::Solid) = 0;
+  virtual void SetBrush(std::int32_t color, BrushStyle style = BrushStyle::Solid) = 0;
+
+  /// Outline in the pen, inside in the brush, alternate (odd-even) filling.
+  virtual void Polygon(std::span<const PixelPoint> ring) = 0;
+  virtual void Polyline(std::span<const PixelPoint> points) = 0;
+  /// A box filled with the brush and framed with the pen; the frame lies on the outermost pixels.
+  virtual void Box(const PixelBox& box) = 0;
+  /// Paints a bitmap file scaled to `box`; a box without size paints it at its natural size from its top
+  /// left corner. A file that cannot be shown paints nothing.
+  virtual void Image(const std::filesystem::path& file, const PixelBox& box) = 0;
+  /// A text in the pen's colour, its top left corner at `at`. UTF-8.
+  virtual void Text(PixelPoint at, std::string_view text) = 0;
+  /// The colour of one pixel as painted so far; white outside.
+  virtual std::int32_t Pixel(PixelPoint at) const = 0;
+};
+
+}  // namespace landsmith
