@@ -10,7 +10,8 @@ from 1, and single precision is made by packing. Input, one statement a line, in
     line selected|unselected     a new line; name and type follow
     name TEXT
     type TEXT
-    LAT LON WIDTH                a vertex
+    LAT LON WIDTH                a vertex in degrees and metres
+    at CELLX CELLY X Y WIDTH     a vertex at a point of a Cell
 """
 import math
 import struct
@@ -99,6 +100,9 @@ class Compiler:
                     self.lines.append({"selected": words[1] == "selected", "name": "", "type": "", "points": []})
                 elif words[0] in ("name", "type"):
                     self.lines[-1][words[0]] = text.partition(" ")[2]
+                elif words[0] == "at":
+                    lat, lon = from_cell_point(*(int(word) for word in words[1:5]))
+                    self.lines[-1]["points"].append((lat, lon, single(float(words[5]))))
                 else:
                     lat, lon, wid = (float(word) for word in words)
                     self.lines[-1]["points"].append((lat, lon, single(wid)))
