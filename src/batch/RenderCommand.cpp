@@ -153,7 +153,7 @@ void WritePng(const QImage& picture, const std::filesystem::path& file) {
 void Render(BatchRun& run, const RenderArguments& arguments) {
   const RenderOptions options = CheckOptions(arguments);
   SystemToolRunner tools(run.folders.Tools(), CurrentProgram().parent_path(), run.dialogs);
-  Session session{run.folders, run.dialogs, tools};
+  Session session(run.folders, run.dialogs, tools);
   session.settings = run.settings;
   session.project = OpenForCommand(run, arguments.Project);
   session.lands = ReadClassTable(run.folders.Tools() / "lands.txt", ClassKind::Land);
