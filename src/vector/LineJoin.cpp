@@ -2,6 +2,7 @@
 
 #include "core/Settings.h"
 #include "vector/LineOperations.h"
+#include "vector/LineSelection.h"
 
 #include <cmath>
 #include <iterator>
@@ -64,16 +65,18 @@ std::optional<JoinPlan> PlanJoin(const ProjectState& project, std::size_t newLin
 
 }  // namespace
 
-void JoinLineRecords(ProjectState& project, std::size_t a, std::size_t b, bool reverseA, bool reverseB) {
+void JoinLineRecords(ProjectState& project, std::size_t a, std::size_t b, bool reverseA, bool reverseB,
+                     Selection* selection) {
+  Selection notKept;
+  Selection& counted = selection == nullptr ? notKept : *selection;
   LineRec& kept = project.Lines[a];
   LineRec& added = project.Lines[b];
   if (reverseA) ReverseLine(kept);
   if (reverseB) ReverseLine(added);
-  for (std::size_t k = 1; k < added.Points.size(); ++k)
-    kept.Points.push_back(added.Points[k]);
-  for (LinePoint& point : kept.Points)
-    point.Selected = false;
-  kept.Selected = true;
+  MarkLine(kept, true, counted);
+  MarkLine(added, false, counted);
+  if (!added.Points.empty())
+    kept.Points.insert(kept.Points.end(), added.Points.begin() + 1, added.Points.end());
   SetPathBounds(kept);
   DeleteLine(project, b);
 }
@@ -88,13 +91,12 @@ std::string JoinLines(ProjectState& project, Selection& selection) {
   std::size_t second = chosen[1];
   if (!GapIsShort(project.Lines[first], project.Lines[second])) std::swap(first, second);
   if (!GapIsShort(project.Lines[first], project.Lines[second])) return "Could not join the lines!";
-  JoinLineRecords(project, first, second, false, false);
-  selection.Remove();
+  JoinLineRecords(project, first, second, false, false, &selection);
   return {};
 }
 
 bool TryAutoJoin(ProjectState& project, std::size_t newLine, const AppSettings& settings,
-                 const ViewScale& scale) {
+                 const ViewScale& scale, Selection* selection) {
   const JoinTolerance tolerance = ToleranceOf(settings, scale);
   for (std::size_t j = 0; j < project.Lines.size(); ++j) {
     const LineRec& fresh = project.Lines[newLine];
@@ -103,7 +105,7 @@ bool TryAutoJoin(ProjectState& project, std::size_t newLine, const AppSettings& 
     if (settings.NameJoin && other.Name != fresh.Name) continue;
     const auto plan = PlanJoin(project, newLine, j, !settings.DirJoin, tolerance);
     if (!plan) continue;
-    JoinLineRecords(project, plan->a, plan->b, plan->reverseA, plan->reverseB);
+    JoinLineRecords(project, plan->a, plan->b, plan->reverseA, plan->reverseB, selection);
     return true;
   }
   return false;

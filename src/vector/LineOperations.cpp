@@ -1,5 +1,7 @@
 #include "vector/LineOperations.h"
 
+#include "vector/LineSelection.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -129,12 +131,8 @@ bool SplitLine(ProjectState& project, Selection& selection) {
     rest.Points.assign(shared, line.Points.end());
     line.Points.erase(shared + 1, line.Points.end());
     // The shared vertex stays selected in the old line; the marks behind it give way to the new line's own.
-    for (std::size_t lost = CountSelected(rest); lost > 1; --lost)
-      selection.Remove();
-    for (LinePoint& point : rest.Points)
-      point.Selected = false;
-    rest.Selected = true;
-    selection.Add();
+    rest.Points.front().Selected = false;
+    MarkLine(rest, true, selection);
     SetPathBounds(line);
     SetPathBounds(rest);
     project.Lines.push_back(std::move(rest));

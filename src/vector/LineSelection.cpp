@@ -13,24 +13,6 @@ bool HasSelectedPoint(const LineRec& line) {
                      [](const LinePoint& point) { return point.Selected; });
 }
 
-/// The marks of the vertices go; each was counted.
-void ClearPointMarks(LineRec& line, Selection& selection) {
-  for (LinePoint& point : line.Points) {
-    if (!point.Selected) continue;
-    point.Selected = false;
-    selection.Remove();
-  }
-}
-
-void MarkLine(LineRec& line, bool state, Selection& selection) {
-  if (line.Selected == state) return;
-  line.Selected = state;
-  if (state)
-    selection.Add();
-  else
-    selection.Remove();
-}
-
 /// What a record's box must meet before its points are looked at.
 GeoBox CursorBox(WorldPixel at, const ViewScale& scale) {
   return {(at.Y + Reach) / scale.PixelsPerDegLat, (at.Y - Reach) / scale.PixelsPerDegLat,
@@ -44,11 +26,23 @@ bool OutOfReach(double end1, double end2, double value) {
 
 }  // namespace
 
-void SelectAllLines(ProjectState& project, bool state, Selection& selection) {
-  for (LineRec& line : project.Lines) {
-    ClearPointMarks(line, selection);
-    MarkLine(line, state, selection);
+void MarkLine(LineRec& line, bool state, Selection& selection) {
+  for (LinePoint& point : line.Points) {
+    if (!point.Selected) continue;
+    point.Selected = false;
+    selection.Remove();
   }
+  if (line.Selected == state) return;
+  line.Selected = state;
+  if (state)
+    selection.Add();
+  else
+    selection.Remove();
+}
+
+void SelectAllLines(ProjectState& project, bool state, Selection& selection) {
+  for (LineRec& line : project.Lines)
+    MarkLine(line, state, selection);
 }
 
 void InvertLineSelection(ProjectState& project, Selection& selection) {
@@ -63,9 +57,7 @@ void SelectLinesInBox(ProjectState& project, const GeoBox& box, Selection& selec
     const GeoBox& own = line.Box;
     const bool inside =
         own.NLat < box.NLat && own.SLat > box.SLat && own.WLon > box.WLon && own.ELon < box.ELon;
-    if (!inside || line.Points.empty()) continue;
-    ClearPointMarks(line, selection);
-    MarkLine(line, true, selection);
+    if (inside && !line.Points.empty()) MarkLine(line, true, selection);
   }
 }
 
@@ -129,9 +121,7 @@ std::optional<std::size_t> HitLine(ProjectState& project, WorldPixel at, const V
                                    Selection& selection) {
   const std::optional<PathPoint> hit = FindLineAt(project, at, scale);
   if (!hit) return {};
-  LineRec& line = project.Lines[hit->item];
-  ClearPointMarks(line, selection);
-  MarkLine(line, true, selection);
+  MarkLine(project.Lines[hit->item], true, selection);
   return hit->item;
 }
 
