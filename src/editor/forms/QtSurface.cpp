@@ -97,6 +97,24 @@ void QtSurface::Polyline(std::span<const PixelPoint> points) {
   m_painter.drawPolyline(converted.data(), static_cast<int>(converted.size()));
 }
 
+void QtSurface::Spans(std::span<const PixelSpan> spans, std::int32_t color) {
+  const QRgb value = ToQColor(color).rgb();
+  const double ratio = m_image.devicePixelRatio();
+  const auto device = [ratio](std::int32_t at, int limit) {
+    return static_cast<int>(std::clamp(std::floor(at * ratio), 0.0, static_cast<double>(limit)));
+  };
+  for (const PixelSpan& span : spans) {
+    const int left = device(span.left, m_image.width());
+    const int right = device(span.right, m_image.width());
+    if (right <= left || span.y < 0) continue;
+    const int bottom = device(span.y + 1, m_image.height());
+    for (int y = device(span.y, m_image.height()); y < bottom; ++y) {
+      auto* row = reinterpret_cast<QRgb*>(m_image.scanLine(y));
+      std::fill(row + left, row + right, value);
+    }
+  }
+}
+
 void QtSurface::Box(const PixelBox& box) {
   const QRect area(QPoint(std::min(box.left, box.right), std::min(box.top, box.bottom)),
                    QPoint(std::max(box.left, box.right) - 1, std::max(box.top, box.bottom) - 1));

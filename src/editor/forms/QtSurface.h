@@ -24,6 +24,7 @@ public:
   void SetBrush(std::int32_t color, BrushStyle style) override;
   void Polygon(std::span<const PixelPoint> ring) override;
   void Polyline(std::span<const PixelPoint> points) override;
+  void Spans(std::span<const PixelSpan> spans, std::int32_t color) override;
   void Box(const PixelBox& box) override;
   void Image(const std::filesystem::path& file, const PixelBox& box) override;
   void Text(PixelPoint at, std::string_view text) override;
