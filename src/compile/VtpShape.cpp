@@ -1,6 +1,7 @@
 #include "compile/VtpShape.h"
 
 #include "core/Numbers.h"
+#include "platform/RuntimeError.h"
 
 #include <cmath>
 
@@ -17,8 +18,8 @@ struct Across {
 
 /// Half the strip's width at `at`, along (a) and across (b) the axes, for the direction `from` to `to`.
 Across HalfAcross(const RunPoint& from, const RunPoint& to, float width) {
-  const double dx = static_cast<float>(to.X - from.X);
-  const double dy = static_cast<float>(to.Y - from.Y);
+  const double dx = static_cast<float>(std::int64_t{to.X} - from.X);
+  const double dy = static_cast<float>(std::int64_t{to.Y} - from.Y);
   const double length = std::sqrt(dx * dx + dy * dy);
   if (length == 0) return {};
   const double k = width * HalfWidthPoints;
@@ -26,12 +27,20 @@ Across HalfAcross(const RunPoint& from, const RunPoint& to, float width) {
 }
 
 RunPoint Moved(RunPoint point, std::int32_t dx, std::int32_t dy) {
-  point.X += dx;
-  point.Y += dy;
+  point.X = RoundHalfEven(static_cast<double>(point.X) + dx);
+  point.Y = RoundHalfEven(static_cast<double>(point.Y) + dy);
   return point;
 }
 
-bool IsStep(std::int32_t distance) {
+std::uint8_t ByteWidth(float width) {
+  try {
+    return RoundToByte(width);
+  } catch (const RuntimeError&) {
+    throw RuntimeError("the width " + NumberText(width) + " is not from 0 to 255 metres");
+  }
+}
+
+bool IsStep(std::int64_t distance) {
   return distance >= -LongestStep && distance <= LongestStep;
 }
 
@@ -53,17 +62,17 @@ void AddLineEnds(LineRun& run) {
 
 void PackRunPoints(LineRun& run) {
   auto& points = run.Points;
-  std::uint8_t width = RoundToByte(points[0].Wid);
+  std::uint8_t width = ByteWidth(points[0].Wid);
   points[0].WidthByte = width;
   points[0].Kind = 0;
   std::int32_t x = points[0].X, y = points[0].Y;
   std::size_t head = 0, steps = 0;
   for (std::size_t i = 1; i < points.size(); ++i) {
     RunPoint& point = points[i];
-    const std::uint8_t own = RoundToByte(point.Wid);
+    const std::uint8_t own = ByteWidth(point.Wid);
     point.WidthByte = own == width ? std::uint8_t{0} : own;
     width = own;
-    const std::int32_t dx = point.X - x, dy = point.Y - y;
+    const std::int64_t dx = std::int64_t{point.X} - x, dy = std::int64_t{point.Y} - y;
     x = point.X;
     y = point.Y;
     if (!IsStep(dx) || !IsStep(dy) || steps == MostSteps) {
@@ -72,8 +81,8 @@ void PackRunPoints(LineRun& run) {
       steps = 0;
     } else {
       point.Kind = StepKind;
-      point.X = dx;
-      point.Y = dy;
+      point.X = static_cast<std::int32_t>(dx);
+      point.Y = static_cast<std::int32_t>(dy);
       ++steps;
     }
   }

@@ -38,6 +38,7 @@ TEST(VtpLineSource, NamesTheLineItCannotWrite) {
   }
   const std::string text = FailureOf(Road().Through({{47.5, 8.1}, {47.6, 8.1}}, 256));
   EXPECT_NE(text.find("line 2 \"Main street\""), std::string::npos) << text;
+  EXPECT_NE(text.find("width 256"), std::string::npos) << text;
 }
 
 TEST(VtpLineSource, HasNothingWithoutALineOfTwoPlaces) {
