@@ -14,6 +14,7 @@
 #include "vector/TextureCatalog.h"
 
 #include <cstddef>
+#include <cstdint>
 
 namespace landsmith {
 
@@ -39,6 +40,9 @@ struct Session {
   TextureCatalog lineTextures, polyTextures;
   std::size_t currentLineTexture = 0, currentPolyTexture = 0;  ///< 0-based place in the catalogue
   LineDefaults rgnLines;
+
+  /// Rises with every change of the project: what was derived from an older one is stale.
+  std::uint64_t Revision = 1;
 };
 
 /// Start-up without a window: settings, recent files, simulator, catalogues, work folder, the view and the
