@@ -18,8 +18,7 @@ void WarnOfMissingBitmaps(Session& session) {
 }
 
 void RequireSimulator(Session& session, const std::filesystem::path& shippedData) {
-  const auto found =
-      FindSimulator(session.settings.FSPath, shippedData, session.folders.SimulatorIsStandIn);
+  const auto found = FindSimulator(session.settings.FSPath, shippedData, session.folders.SimulatorIsStandIn);
   if (!found) {
     const std::string text = "FS2004 does not exist in this computer!";
     session.dialogs.Message(MessageKind::Error, text);

@@ -100,7 +100,8 @@ bool SegmentCrossesView(const ViewState& view, double lon1, double lat1, double 
 }
 
 CanvasPoint ToCanvas(const ViewState& view, double lon, double lat) {
-  return {(lon - view.LonLeft) * view.Scale.PixelsPerDegLon, (view.LatTop - lat) * view.Scale.PixelsPerDegLat};
+  return {(lon - view.LonLeft) * view.Scale.PixelsPerDegLon,
+          (view.LatTop - lat) * view.Scale.PixelsPerDegLat};
 }
 
 PixelOffset ToOffset(const ViewState& view, PixelPoint raw) {
