@@ -80,6 +80,21 @@ std::vector<LinePoint> Shifted(std::vector<LinePoint> points, const AppSettings&
   return points;
 }
 
+/// The finished runs of one line, which adds to the bounds; none when all of it falls on one Point.
+std::vector<LineRun> FinishedRuns(const LineRec& line, const CollectedLine& collected,
+                                  const AppSettings& settings, GeoBox& bounds) {
+  const auto points = SnapLinePoints(Shifted(line.Points, settings));
+  if (points.size() < 2) return {};
+  for (const LinePoint& point : points)
+    bounds.Add(point.Lat, point.Lon);
+  auto runs = ClipLineToCells(points, line.Name, collected.texId, collected.layer);
+  for (LineRun& run : runs) {
+    AddLineEnds(run);
+    PackRunPoints(run);
+  }
+  return runs;
+}
+
 }  // namespace
 
 std::optional<std::string> VtpLineSource(const ProjectState& project, const AppSettings& settings) {
@@ -87,17 +102,9 @@ std::optional<std::string> VtpLineSource(const ProjectState& project, const AppS
   std::vector<LineRun> runs;
   GeoBox bounds;
   for (const CollectedLine& collected : CollectVtpLines(project, textures)) {
-    const LineRec& line = project.Lines[collected.index];
-    const auto points = SnapLinePoints(Shifted(line.Points, settings));
-    if (points.size() < 2) continue;
-    for (const LinePoint& point : points)
-      bounds.Add(point.Lat, point.Lon);
     try {
-      for (LineRun& run : ClipLineToCells(points, line.Name, collected.texId, collected.layer)) {
-        AddLineEnds(run);
-        PackRunPoints(run);
+      for (LineRun& run : FinishedRuns(project.Lines[collected.index], collected, settings, bounds))
         runs.push_back(std::move(run));
-      }
     } catch (const RuntimeError& failure) {
       throw FailureIn(project, collected.index, failure.what());
     }
