@@ -96,7 +96,7 @@ std::string JoinLines(ProjectState& project, Selection& selection) {
 }
 
 bool TryAutoJoin(ProjectState& project, std::size_t newLine, const AppSettings& settings,
-                 const ViewScale& scale, Selection* selection) {
+                 const ViewScale& scale) {
   const JoinTolerance tolerance = ToleranceOf(settings, scale);
   for (std::size_t j = 0; j < project.Lines.size(); ++j) {
     const LineRec& fresh = project.Lines[newLine];
@@ -105,7 +105,7 @@ bool TryAutoJoin(ProjectState& project, std::size_t newLine, const AppSettings& 
     if (settings.NameJoin && other.Name != fresh.Name) continue;
     const auto plan = PlanJoin(project, newLine, j, !settings.DirJoin, tolerance);
     if (!plan) continue;
-    JoinLineRecords(project, plan->a, plan->b, plan->reverseA, plan->reverseB, selection);
+    JoinLineRecords(project, plan->a, plan->b, plan->reverseA, plan->reverseB);
     return true;
   }
   return false;

@@ -23,8 +23,8 @@ void JoinLineRecords(ProjectState& project, std::size_t a, std::size_t b, bool r
 std::string JoinLines(ProjectState& project, Selection& selection);
 
 /// A new line meets the first other line of its type whose end is close to one of its ends. True when joined;
-/// the joined line is then selected.
+/// the joined line is then selected, and the caller counts anew.
 bool TryAutoJoin(ProjectState& project, std::size_t newLine, const AppSettings& settings,
-                 const ViewScale& scale, Selection* selection = nullptr);
+                 const ViewScale& scale);
 
 }  // namespace landsmith
