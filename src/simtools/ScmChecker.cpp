@@ -67,6 +67,7 @@ void CheckVtpFileHeader(SourceCheck& check, const Statement& statement, bool com
   if (!check.HasHeader) check.Fail(statement.Line, "VTPFileHeader stands in front of the Header");
   if (check.HasHeader && !check.HasBounds)
     check.Fail(statement.Line, "vector terrain wants a Header with bounds");
+  check.HasHeader = true;  // a missing one is said once
   check.Vtp.FileHeader(statement, complete);
 }
 

@@ -76,6 +76,7 @@ void VtpChecker::PolyCount(const Statement& statement, bool complete) {
     return;
   }
   m_hasPolyCount = true;
+  m_open.back().Line = statement.Line;  // this is the statement that announces
   if (complete)
     m_open.back().Announced =
         NumberArgument(statement, 0, {"the number of polys", 1, bgl::LargestCount}, m_errors);
@@ -217,7 +218,7 @@ VtpChecker::OpenBlock& VtpChecker::Open(Block kind, const Statement& statement) 
     Fail(statement.Line, statement.Name + " stands behind VTPIndexList");
   }
   const auto depth = static_cast<std::size_t>(kind);
-  if (kind != Block::Cell) {
+  if (kind != Block::Cell && m_stage == Stage::Cells) {
     if (m_open.empty() || m_open.back().Kind != static_cast<Block>(depth - 1))
       Fail(statement.Line, statement.Name + " stands outside of a " + OpenedBy[depth - 1]);
     else
