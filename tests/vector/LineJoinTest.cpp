@@ -137,7 +137,7 @@ INSTANTIATE_TEST_SUITE_P(
         AutoRow{"otherType", Other(10, 20), OfType(Fresh(0, 10)), true, false, {}, ""},
         AutoRow{"withinAStep", Other(10.00005, 20), Fresh(0, 10), true, true, {0, 10, 20}, "new"},
         AutoRow{"beyondAStep", Other(10.00006, 20), Fresh(0, 10), true, true, {}, ""}),
-    [](const auto& info) { return info.param.name; });
+    [](const auto& row) { return row.param.name; });
 
 TEST(AutoJoinOnScreen, ReachesThreePixels) {
   constexpr ViewScale scale{1024, 512, 1};

@@ -38,7 +38,7 @@ INSTANTIATE_TEST_SUITE_P(
         TypeRow{"otherHead", "Other//-1//x", UnknownLine{"Other//-1//x"}, "Other", "Other//-1//x"},
         TypeRow{"headIsCaseSensitive", "vtp//4//1//", UnknownLine{"vtp//4//1//"}, "vtp", "vtp//4//1//"},
         TypeRow{"singleSlash", "VTP/4", UnknownLine{"VTP/4"}, "VTP/4", "VTP/4"}),
-    [](const auto& info) { return info.param.name; });
+    [](const auto& row) { return row.param.name; });
 
 TEST(TextureText, OfFewerThanFiveCharactersIsANumber) {
   EXPECT_TRUE(IsNumericTexture(""));

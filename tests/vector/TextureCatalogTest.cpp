@@ -65,7 +65,7 @@ INSTANTIATE_TEST_SUITE_P(All, BadTextureCatalog,
                                          BadRow{"twoColours", "[Texture.1]\r\nColor=1 2\r\n", "line 2"},
                                          BadRow{"colourTooLarge", "[Texture.1]\r\n\r\nColor=1 2 256\r\n",
                                                 "line 3"}),
-                         [](const auto& info) { return info.param.name; });
+                         [](const auto& row) { return row.param.name; });
 
 TEST(TextureCatalogFile, MissingIsAnError) {
   const test::TempFolder folder;
