@@ -15,6 +15,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <utility>
 
 namespace landsmith {
 
@@ -26,6 +27,9 @@ struct LineDefaults {
 };
 
 struct Session {
+  Session(ProgramFolders programFolders, Dialogs& itsDialogs, ToolRunner& itsTools)
+      : folders(std::move(programFolders)), dialogs(itsDialogs), tools(itsTools) {}
+
   ProgramFolders folders;
   Dialogs& dialogs;
   ToolRunner& tools;
