@@ -22,18 +22,41 @@ QtPoints ToQPoints(std::span<const PixelPoint> points) {
   return result;
 }
 
-/// One axis of a picture stretched over `low` to `high`, cut to the source pixels that reach into
-/// 0 to `visible`. Drawing only these keeps a map exact when a zoom makes it a million pixels wide.
+/// One axis of a picture stretched over a box, cut to the source pixels that reach into the surface: drawing
+/// only these keeps a map exact when a zoom makes it far wider than the canvas.
 struct StretchedAxis {
-  double targetLow, targetSize, sourceLow, sourceSize;
+  double low, perSource;  ///< where source pixel 0 begins, and the size of one
+  int first, last;        ///< source pixels in view, `last` outside
+
+  double TargetLow() const { return low + first * perSource; }
+  double TargetSize() const { return (last - first) * perSource; }
+  int SourceSize() const { return last - first; }
 };
 
 StretchedAxis CutAxis(double low, double high, double visible, int sourcePixels) {
   const double perSource = (high - low) / sourcePixels;
-  const double first = std::clamp(std::floor((0 - low) / perSource), 0.0, static_cast<double>(sourcePixels));
-  const double last =
-      std::clamp(std::ceil((visible - low) / perSource), first, static_cast<double>(sourcePixels));
-  return {low + first * perSource, (last - first) * perSource, first, last - first};
+  const double pixels = sourcePixels;
+  const double first = std::clamp(std::floor((0 - low) / perSource), 0.0, pixels);
+  const double last = std::clamp(std::ceil((visible - low) / perSource), first, pixels);
+  return {low, perSource, static_cast<int>(first), static_cast<int>(last)};
+}
+
+/// Beyond this size the painter's own stretching loses its precision.
+constexpr double MaxStretch = 16384;
+
+/// The source pixels in view as plain boxes. There are few, as each is larger than the surface on one axis.
+void FillSourcePixels(QPainter& painter, const QImage& picture, const StretchedAxis& x,
+                      const StretchedAxis& y) {
+  const auto edge = [](const StretchedAxis& axis, int index) {
+    return static_cast<int>(
+        std::clamp(std::round(axis.low + index * axis.perSource), -MaxStretch, MaxStretch));
+  };
+  for (int row = y.first; row < y.last; ++row) {
+    for (int column = x.first; column < x.last; ++column) {
+      const QPoint from(edge(x, column), edge(y, row)), to(edge(x, column + 1), edge(y, row + 1));
+      painter.fillRect(QRect(from, to - QPoint(1, 1)), picture.pixelColor(column, row));
+    }
+  }
 }
 
 }  // namespace
@@ -121,6 +144,8 @@ void QtSurface::Box(const PixelBox& box) {
   if (area.isEmpty()) return;
   if (m_painter.pen().style() == Qt::NoPen)
     m_painter.fillRect(area, m_painter.brush());
+  else if (area.width() == 1 || area.height() == 1)  // all frame
+    m_painter.fillRect(area, m_painter.pen().color());
   else
     m_painter.drawRect(area.adjusted(0, 0, -1, -1));
 }
@@ -134,11 +159,15 @@ void QtSurface::Image(const std::filesystem::path& file, const PixelBox& box) {
   }
   const StretchedAxis x = CutAxis(box.left, box.right, Width(), picture.width());
   const StretchedAxis y = CutAxis(box.top, box.bottom, Height(), picture.height());
+  if (x.TargetSize() > MaxStretch || y.TargetSize() > MaxStretch) {
+    FillSourcePixels(m_painter, picture, x, y);
+    return;
+  }
   // Smooth when pixels of the picture are lost; enlarged they stay square, so that an author can calibrate
   // on them.
-  m_painter.setRenderHint(QPainter::SmoothPixmapTransform, x.targetSize < x.sourceSize);
-  m_painter.drawImage(QRectF(x.targetLow, y.targetLow, x.targetSize, y.targetSize), picture,
-                      QRectF(x.sourceLow, y.sourceLow, x.sourceSize, y.sourceSize));
+  m_painter.setRenderHint(QPainter::SmoothPixmapTransform, x.perSource < 1);
+  m_painter.drawImage(QRectF(x.TargetLow(), y.TargetLow(), x.TargetSize(), y.TargetSize()), picture,
+                      QRectF(x.first, y.first, x.SourceSize(), y.SourceSize()));
 }
 
 void QtSurface::Text(PixelPoint at, std::string_view text) {
