@@ -1,3 +1,5 @@
-int main() {
-  return 1;
+#include "batch/Commands.h"
+
+int main(int argc, char** argv) {
+  return landsmith::RunBatch(argc, argv);
 }

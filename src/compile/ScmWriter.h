@@ -13,7 +13,7 @@ class ScmWriter {
 public:
   ScmWriter& Text(std::string_view text);  ///< UTF-8, as it stands
   ScmWriter& Integer(std::int64_t value);  ///< plain decimal, no padding
-  /// At least two digits, "00".
+  /// 0 or above, with at least two digits: "07", "12", "123".
   ScmWriter& TwoDigits(std::int64_t value);
   ScmWriter& Fixed(double value, int decimals);
   ScmWriter& Shortest(double value);

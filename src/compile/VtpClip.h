@@ -14,10 +14,13 @@
 
 namespace landsmith {
 
+inline constexpr std::uint8_t StepKind = 8;
+
 struct RunPoint {
   std::int32_t X = 0, Y = 0;
-  float Wid = 0;          ///< metres
-  std::uint8_t Kind = 0;  ///< 8: a step from the point before; else absolute, with so many steps behind it
+  float Wid = 0;  ///< metres
+  std::uint8_t Kind =
+      0;  ///< StepKind: a step from the point before; else absolute, with so many steps behind it
   std::uint8_t WidthByte = 0;  ///< 0: the width goes on as it was
   bool operator==(const RunPoint&) const = default;
 };
@@ -27,22 +30,20 @@ struct LineRun {
   std::int32_t TexId = 0;
   std::int32_t Layer = 0;
   std::int32_t CellX = 0, CellY = 0;
-  std::vector<RunPoint> Points;  ///< the first and the last slot are free for the ends until AddLineEnds
+  std::vector<RunPoint> Points;  ///< the first and the last slot are free until AddLineEnds (VtpShape.h)
 };
 
 /// Every vertex to the lattice of Points; one that then equals its predecessor goes. May leave a single
 /// vertex.
 std::vector<LinePoint> SnapLinePoints(const std::vector<LinePoint>& points);
 
-/// The runs of one line, by Cell row from the north, then column from the west, then place on the line.
-/// `points`: snapped, 2 or more. Linear in the vertices and the runs; a Cell without a vertex costs nothing.
+/// The runs of one line, by Cell row from the north, then column from the west, then place on the line. The
+/// sides of a Cell count as inside, so a vertex on a border belongs to both neighbours as far as the line's
+/// box reaches them. A line of 2 vertices goes whole to each Cell that holds one of them. A run that would
+/// hold only the last vertex and the one before is left out: the neighbour's run has that segment already.
+/// `points`: snapped, 2 or more. The work grows with the vertices and the runs; a Cell that the line only
+/// crosses costs nothing.
 std::vector<LineRun> ClipLineToCells(const std::vector<LinePoint>& points, const std::string& name,
                                      std::int32_t texId, std::int32_t layer);
-
-/// Makes each end a pair of corners across the strip; 0.10425 turns metres into half a width in points.
-void AddLineEnds(LineRun& run);
-/// Gives each point its Kind and WidthByte: steps of -1022..1022, at most 7 in a row. Throws RuntimeError for
-/// a width that is no byte.
-void PackRunPoints(LineRun& run);
 
 }  // namespace landsmith

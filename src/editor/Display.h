@@ -2,11 +2,15 @@
 // which is cleared and painted anew while something moves.
 #pragma once
 
+#include "editor/GeometryIndex.h"
 #include "editor/Painters.h"
 #include "editor/Session.h"
 #include "platform/Surface.h"
 
 #include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <utility>
 
 namespace landsmith {
 
@@ -41,12 +45,26 @@ public:
   /// Paints all pending layers without clearing.
   void PaintOverlay();
 
+  /// What the tool at hand paints on top of the overlay: rubber lines and boxes.
+  void SetExtra(std::function<void(Surface&)> paint) { m_extra = std::move(paint); }
+
   CanvasSurfaces& Surfaces() { return m_surfaces; }
   CanvasColors Colors;
 
 private:
+  PaintInput Input();
+  bool ShowsAny(LayerKind kind) const;
+  void PaintLayer(LayerKind kind, Surface& surface, const PaintInput& in);
+  void PaintBase(int mask, const PaintInput& in);
+  void PaintPending(const PaintInput& in);
+  void PaintOnTop(const PaintInput& in);
+
   Session& m_session;
   CanvasSurfaces& m_surfaces;
+  std::function<void(Surface&)> m_extra;
+  std::filesystem::path m_bitmaps;
+  GeometryIndex m_index;
+  std::uint64_t m_indexRevision = 0;  ///< of the project that m_index describes; 0: none yet
 };
 
 }  // namespace landsmith

@@ -15,6 +15,7 @@ public:
   Edit(Session& session, Display& display, int layers = LayerMask::All)
       : m_session(session), m_display(display), m_layers(layers) {}
   ~Edit() {
+    if (m_begun) ++m_session.Revision;
     if (m_begun && m_layers >= 0) m_display.RebuildDisplay(m_layers);
   }
   Edit(const Edit&) = delete;
@@ -22,6 +23,7 @@ public:
 
   ProjectState& Project() {
     if (!std::exchange(m_begun, true)) m_session.project.Dirty = true;
+    ++m_session.Revision;
     return m_session.project;
   }
   bool Begun() const { return m_begun; }

@@ -45,6 +45,12 @@ public:
   virtual bool ShowProjectProperties() = 0;
   virtual int ToolbarHeight() const = 0;
   virtual int StatusBarHeight() const = 0;
+  /// Starts or restarts a one-shot timer whose end calls Editor::TimerTick. False: this window keeps no
+  /// timers, and the editor then acts at once.
+  virtual bool StartTimer(TimerId, int /*milliseconds*/) { return false; }
+  virtual void StopTimer(TimerId) {}
+  /// The label beside the mouse, its top left corner at `at`; an empty text hides it.
+  virtual void ShowHoverLabel(std::string_view /*text*/, PixelPoint /*at*/) {}
 };
 
 class Editor {
@@ -65,6 +71,7 @@ public:
   void KeyDown(const KeyInput& in);
   void KeyUp(const KeyInput& in);
   void FocusLost();
+  void TimerTick(TimerId timer);
 
   // Commands. Each catches its failures, shows them as one error box, and leaves the project whole.
   void ChooseMode(ModeId mode);
@@ -84,7 +91,13 @@ public:
   void GoTo(LatLon center);
   void SelectAll();
   void DeleteSelected();  ///< with the question of AskDelete
+  void InvertSelection();
+  /// mnuSLines ...: marks or clears all items of one shown kind.
+  void SelectKind(LayerKind kind, bool state);
   void SnapToLod21();
+  /// The commands of a context menu; `target` as ShowContextMenu gave it. Both ignore a target that is gone.
+  void DeleteTarget(const PopupTarget& target);
+  void ShowTargetProperties(const PopupTarget& target);
   void SetClassGridView(bool on);
   /// The five pages of preferences have been accepted: scales, class window and pictures follow.
   void SettingsChanged(bool centerChanged);

@@ -8,6 +8,7 @@
 
 #include "core/Project.h"
 #include "core/Settings.h"
+#include "editor/GeometryIndex.h"
 #include "editor/ToolState.h"
 #include "editor/ViewState.h"
 #include "platform/Surface.h"
@@ -27,6 +28,8 @@ struct PaintInput {
   const ClassTable& lands;
   const ClassTable& waters;
   const std::filesystem::path& bitmaps;  ///< tools/bmps
+  /// Of this very state of the project; without one the painters make their own.
+  const GeometryIndex* index = nullptr;
 };
 
 void DisplayMaps(Surface& surface, const PaintInput& in);
@@ -36,7 +39,7 @@ void DisplayLands(Surface& surface, const PaintInput& in);
 void DisplayWaters(Surface& surface, const PaintInput& in);
 void DisplayPhotos(Surface& surface, const PaintInput& in);
 void DisplayExcludes(Surface& surface, const PaintInput& in);
-/// `drawn`: one byte a polygon, set for what was drawn.
+/// `drawn`: one byte a polygon or line, set for what was drawn; left alone while a selection is dragged.
 void DisplayPolys(Surface& surface, const PaintInput& in, std::vector<std::uint8_t>& drawn);
 void DisplayLines(Surface& surface, const PaintInput& in, std::vector<std::uint8_t>& drawn);
 void DisplayObjects(Surface& surface, const PaintInput& in);

@@ -14,6 +14,8 @@
 #include "vector/TextureCatalog.h"
 
 #include <cstddef>
+#include <cstdint>
+#include <utility>
 
 namespace landsmith {
 
@@ -25,6 +27,9 @@ struct LineDefaults {
 };
 
 struct Session {
+  Session(ProgramFolders programFolders, Dialogs& itsDialogs, ToolRunner& itsTools)
+      : folders(std::move(programFolders)), dialogs(itsDialogs), tools(itsTools) {}
+
   ProgramFolders folders;
   Dialogs& dialogs;
   ToolRunner& tools;
@@ -39,6 +44,9 @@ struct Session {
   TextureCatalog lineTextures, polyTextures;
   std::size_t currentLineTexture = 0, currentPolyTexture = 0;  ///< 0-based place in the catalogue
   LineDefaults rgnLines;
+
+  /// Rises with every change of the project: what was derived from an older one is stale.
+  std::uint64_t Revision = 1;
 };
 
 /// Start-up without a window: settings, recent files, simulator, catalogues, work folder, the view and the

@@ -28,6 +28,13 @@ struct KeyInput {
   bool alt = false;
 };
 
+/// One-shot timers that the window keeps for the editor; starting one anew restarts it.
+enum class TimerId {
+  DragSettle,  ///< until its tick a press on a selection is no drag
+  DragRedraw,  ///< puts the repaints of quick moves together
+  Rubber,      ///< rubber segment of a line under way, label under the mouse
+};
+
 /// A drag. Exactly one of End and Cancel is called: release; or focus lost, mode changed, project replaced.
 class Gesture {
 public:
@@ -35,6 +42,7 @@ public:
   virtual void Update(const PointerInput& in) = 0;
   virtual void End(const PointerInput& in) = 0;
   virtual void Cancel() = 0;
+  virtual void Tick(TimerId) {}
   /// Drawn on top of the overlay while the drag lasts.
   virtual void Paint(Surface&) const {}
 };
@@ -46,8 +54,9 @@ public:
   virtual std::unique_ptr<Gesture> Press(const PointerInput& in) = 0;
   virtual void Hover(const PointerInput&) {}
   virtual bool Key(const KeyInput&) { return false; }  ///< true: used
-  virtual void Leave() {}                              ///< ends what is half made
-  virtual void Paint(Surface&) const {}                ///< rubber lines
+  virtual void Tick(TimerId) {}
+  virtual void Leave() {}                ///< ends what is half made
+  virtual void Paint(Surface&) const {}  ///< rubber lines
 };
 
 }  // namespace landsmith

@@ -85,6 +85,16 @@ WorldPixel ToWorldPixel(const ViewState& view, PixelOffset at);
 bool PointInView(const ViewState& view, double lon, double lat);
 bool SegmentCrossesView(const ViewState& view, double lon1, double lat1, double lon2, double lat2);
 
+/// Pixels from the top left corner, not yet rounded. At high zoom they overflow 32 bits far outside the view:
+/// painters cut first and round then.
+struct CanvasPoint {
+  double x = 0;
+  double y = 0;
+};
+CanvasPoint ToCanvas(const ViewState& view, double lon, double lat);
+/// Offsets from the canvas centre and pixels from its top left corner.
+PixelOffset ToOffset(const ViewState& view, PixelPoint raw);
+
 /// Brush size of Fill mode for a grid level.
 int FillSizeOfGrid(int gridLod);
 

@@ -20,12 +20,22 @@ struct BlnItem {
   std::vector<BlnPoint> Points;
 };
 
+/// Whether a point's third field is a width, or text that nobody looks at.
+enum class BlnWidthField { Read, Ignore };
+
 /// Reads the whole text. Blanks around numbers, LF line ends and blank lines at the end are accepted. Throws
 /// RuntimeError with file and line: a header that is no number, a point without a separator, points missing.
-std::vector<BlnItem> ParseBln(std::string_view bytes, char separator, const std::string& file);
+/// An item may announce 0 points.
+std::vector<BlnItem> ParseBln(std::string_view bytes, char separator, const std::string& file,
+                              BlnWidthField widths = BlnWidthField::Read);
 
-/// Appends the items to the project: closed ones as polygons (and, with BLNAutoLine, lines), open ones as
-/// lines. Reads everything before the project is touched.
+/// The character between fields, as the file holds it: character 9 for the word "tab", a comma where the
+/// setting is empty.
+char BlnSeparatorOf(const AppSettings& settings);
+
+/// Appends the items to the project in the order of the file: closed ones as polygons (and, with BLNAutoLine,
+/// lines), open ones as lines; items without points leave nothing. Reads everything before the project is
+/// touched; Dirty is the caller's.
 void ImportBLN(const std::filesystem::path& path, ProjectState& project, const AppSettings& settings);
 
 }  // namespace landsmith

@@ -25,6 +25,14 @@ struct PixelBox {
   bool operator==(const PixelBox&) const = default;
 };
 
+/// Pixels of one row: left inside, right outside.
+struct PixelSpan {
+  std::int32_t y = 0;
+  std::int32_t left = 0;
+  std::int32_t right = 0;
+  bool operator==(const PixelSpan&) const = default;
+};
+
 enum class PenStyle { Solid, Dot, None };
 enum class BrushStyle { Solid, DiagonalCross, None };
 
@@ -42,6 +50,9 @@ public:
   /// Outline in the pen, inside in the brush, alternate (odd-even) filling.
   virtual void Polygon(std::span<const PixelPoint> ring) = 0;
   virtual void Polyline(std::span<const PixelPoint> points) = 0;
+  /// Sets the pixels of each span to `color`; neither pen nor brush counts, and both stay as they are. Spans
+  /// may lie outside the surface and may overlap.
+  virtual void Spans(std::span<const PixelSpan> spans, std::int32_t color) = 0;
   /// A box filled with the brush and framed with the pen; the frame lies on the outermost pixels.
   virtual void Box(const PixelBox& box) = 0;
   /// Paints a bitmap file scaled to `box`; a box without size paints it at its natural size from its top

@@ -11,6 +11,9 @@
 
 namespace landsmith {
 
+/// Selects the line as a whole or not at all; the marks of its vertices go, and the count follows.
+void MarkLine(LineRec& line, bool state, Selection& selection);
+
 void SelectAllLines(ProjectState& project, bool state, Selection& selection);
 /// Lines with selected vertices and no mark of their own are skipped.
 void InvertLineSelection(ProjectState& project, Selection& selection);

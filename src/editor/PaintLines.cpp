@@ -1,0 +1,166 @@
+// Lines in their true width: one quad a segment, one more where two segments meet.
+#include "editor/PaintHelpers.h"
+#include "editor/Painters.h"
+#include "editor/RingClip.h"
+
+#include <array>
+#include <cmath>
+#include <optional>
+
+namespace landsmith {
+
+namespace {
+
+/// A shorter segment has a direction all the same.
+constexpr double LeastLength = 5.744485294117647e-8;
+/// Above this many pixels of width the gap between two segments shows, and is filled.
+constexpr double LeastJointWidth = 2;
+/// A vertex that lies nearer than this to the one before, and is as wide, adds no pixel worth painting.
+constexpr double ThinningPixels = 0.5, ThinningHalfWidth = 0.25;
+
+struct StrokeVertex {
+  double x = 0, y = 0;
+  double half = 0;  ///< half the width on screen
+};
+
+using Quad = std::array<CanvasPoint, 4>;
+
+bool IsSamePlace(const StrokeVertex& a, const StrokeVertex& b) {
+  return std::abs(a.x - b.x) < ThinningPixels && std::abs(a.y - b.y) < ThinningPixels &&
+         std::abs(a.half - b.half) < ThinningHalfWidth;
+}
+
+class LinePainter {
+public:
+  LinePainter(Surface& surface, const PaintInput& in) : m_surface(surface), m_in(in) {}
+
+  /// `runs`: those of one line that meet the view. True when a segment was drawn.
+  bool Paint(const LineRec& line, std::span<const LineRun> runs) {
+    const std::int32_t color = line.Selected ? m_in.settings.LnColorSel : line.Color;
+    m_surface.SetPen(color);
+    m_surface.SetBrush(color);
+    m_joined = m_drawn = false;
+    std::uint32_t reached = 0;
+    for (const LineRun& run : runs) {
+      if (run.first != reached) m_joined = false;
+      PaintRun(line, run);
+      reached = run.last;
+    }
+    return m_drawn;
+  }
+
+  void PaintMarks(const LineRec& line, std::span<const LineRun> runs, bool anySelected) {
+    std::size_t next = 0;
+    for (const LineRun& run : runs) {
+      for (std::size_t i = std::max<std::size_t>(next, run.first); i <= run.last; ++i)
+        PaintMark(line, i, anySelected);
+      next = run.last + std::size_t{1};
+    }
+  }
+
+private:
+  StrokeVertex Vertex(const LinePoint& point) const {
+    const CanvasPoint at = ToCanvas(m_in.view, point.Lon, point.Lat);
+    return {at.x, at.y, point.Wid * m_in.view.Scale.PixelsPerMeter / 2};
+  }
+
+  bool IsVisible(const LinePoint& a, const LinePoint& b) const {
+    return PointInView(m_in.view, a.Lon, a.Lat) || PointInView(m_in.view, b.Lon, b.Lat) ||
+           SegmentCrossesView(m_in.view, a.Lon, a.Lat, b.Lon, b.Lat);
+  }
+
+  void PaintRun(const LineRec& line, const LineRun& run) {
+    for (std::size_t i = run.first + std::size_t{1}; i <= run.last; ++i) {
+      const LinePoint &from = line.Points[i - 1], &to = line.Points[i];
+      if (!IsVisible(from, to)) {
+        m_joined = false;
+        continue;
+      }
+      m_drawn = true;
+      const StrokeVertex end = Vertex(to);
+      if (!m_joined)
+        m_start = Vertex(from);
+      else if (IsSamePlace(m_start, end))
+        continue;
+      PaintSegment(end);
+      m_start = end;
+      m_joined = true;
+    }
+  }
+
+  /// From m_start. The quad's last two corners are still those of the segment before when the joint is
+  /// filled.
+  void PaintSegment(const StrokeVertex& end) {
+    const double dx = end.x - m_start.x, dy = end.y - m_start.y;
+    const double length = std::max(std::sqrt(dx * dx + dy * dy), LeastLength);
+    const double ux = dx / length, uy = dy / length;
+    m_quad[0] = {m_start.x - m_start.half * uy, m_start.y + m_start.half * ux};
+    m_quad[1] = {m_start.x + m_start.half * uy, m_start.y - m_start.half * ux};
+    if (m_joined && 2 * m_start.half > LeastJointWidth) FillQuad();
+    m_quad[2] = {end.x + end.half * uy, end.y - end.half * ux};
+    m_quad[3] = {end.x - end.half * uy, end.y + end.half * ux};
+    FillQuad();
+  }
+
+  void FillQuad() {
+    const auto isFar = [](CanvasPoint at) { return std::abs(at.x) > FarPixel || std::abs(at.y) > FarPixel; };
+    if (std::any_of(m_quad.begin(), m_quad.end(), isFar)) {
+      const auto cut = RoundedRing(CutFarParts({m_quad.begin(), m_quad.end()}));
+      if (!cut.empty()) m_surface.Polygon(cut);
+      return;
+    }
+    std::array<PixelPoint, 4> corners;
+    for (std::size_t i = 0; i < corners.size(); ++i)
+      corners[i] = {RoundPixel(m_quad[i].x), RoundPixel(m_quad[i].y)};
+    m_surface.Polygon(corners);
+  }
+
+  void PaintMark(const LineRec& line, std::size_t i, bool anySelected) {
+    const LinePoint& point = line.Points[i];
+    if (!PointInView(m_in.view, point.Lon, point.Lat)) return;
+    const bool marked = anySelected && (line.Selected || point.Selected);
+    const std::int32_t color = marked ? m_in.settings.PtColorSel : m_in.settings.PtColorUns;
+    const PixelPoint at = HeldPixel(ToCanvas(m_in.view, point.Lon, point.Lat));
+    const bool last = i + 1 == line.Points.size();
+    m_surface.SetPen(color);
+    m_surface.SetBrush(color, last ? BrushStyle::None : BrushStyle::Solid);
+    m_surface.Box(MarkBox(at, last ? 3 : 2));
+  }
+
+  Surface& m_surface;
+  const PaintInput& m_in;
+  StrokeVertex m_start;
+  Quad m_quad{};
+  bool m_joined = false;  ///< m_start and the last two corners are those of a segment painted just before
+  bool m_drawn = false;
+};
+
+}  // namespace
+
+void DisplayLines(Surface& surface, const PaintInput& in, std::vector<std::uint8_t>& drawn) {
+  const auto& lines = in.project.Lines;
+  if (!in.tool.Dragging || drawn.size() != lines.size()) drawn.assign(lines.size(), 0);
+  std::optional<GeometryIndex> own;
+  const GeometryIndex& index = in.index != nullptr ? *in.index : own.emplace(in.project);
+
+  std::vector<LineRun> runs;
+  for (const std::uint32_t number : index.LineRunBoxes().Meeting(in.view.VisibleBox()))
+    runs.push_back(index.LineRuns()[number]);
+
+  LinePainter painter(surface, in);
+  for (std::size_t first = 0, behind = 0; first < runs.size(); first = behind) {
+    const std::uint32_t number = runs[first].line;
+    while (behind < runs.size() && runs[behind].line == number)
+      ++behind;
+    const LineRec& line = lines[number];
+    const auto lineRuns = std::span(runs).subspan(first, behind - first);
+    if (painter.Paint(line, lineRuns) && !in.tool.Dragging) drawn[number] = 1;
+
+    const bool look = in.tool.Selected.SelectionActive || index.LineHadSelection(number);
+    const bool selected = line.Selected || (look && HasSelectedPoint(line));
+    const bool editing = in.tool.Mode == ModeId::Line && !in.tool.Selected.SelectionActive;
+    if (selected || editing) painter.PaintMarks(line, lineRuns, selected);
+  }
+}
+
+}  // namespace landsmith

@@ -1,0 +1,101 @@
+// Layers of boxes: map frames, meshes, photos, area fills, excludes.
+#include "core/Color.h"
+#include "editor/PaintHelpers.h"
+#include "editor/Painters.h"
+
+#include <array>
+
+namespace landsmith {
+
+namespace {
+
+constexpr std::int32_t MapSelectionColor = 65535;
+constexpr std::int32_t FillSelectionColor = 65280, HandleColor = 65280;
+
+void HatchedBox(Surface& surface, const PixelBox& box, std::int32_t color) {
+  surface.SetPen(color);
+  surface.SetBrush(color, BrushStyle::DiagonalCross);
+  surface.Box(box);
+}
+
+std::int32_t FillColor(const FillRec& fill, const AppSettings& settings) {
+  if (fill.Selected) return FillSelectionColor;
+  switch (fill.Type) {
+    case 0:
+      return settings.PolyWaterColor;
+    case 1:
+      return settings.PolyLandColor;
+    default:
+      return settings.PolyFlattenColor;
+  }
+}
+
+void DrawEdges(Surface& surface, const PixelBox& box) {
+  const std::array<PixelPoint, 5> around{{{box.left, box.top},
+                                          {box.right, box.top},
+                                          {box.right, box.bottom},
+                                          {box.left, box.bottom},
+                                          {box.left, box.top}}};
+  for (std::size_t side = 0; side < 4; ++side)
+    surface.Polyline(std::span(around).subspan(side, 2));
+}
+
+/// From 3 pixels before the corner to 4 pixels after it.
+void DrawHandle(Surface& surface, std::int32_t x, std::int32_t y) {
+  surface.Box({x - 3, y - 3, x + 5, y + 5});
+}
+
+}  // namespace
+
+void DisplayMaps(Surface& surface, const PaintInput& in) {
+  for (const MapRec& map : in.project.Maps) {
+    const MapLevel& shown = map.Level[0];
+    const GeoBox area{shown.NLat, shown.SLat, shown.WLon, shown.ELon};
+    if (!Meets(in.view, area)) continue;
+    if (!map.Selected && !in.settings.BorderON) continue;
+    surface.SetPen(map.Selected ? MapSelectionColor : 0, map.Selected ? 2 : 1);
+    surface.SetBrush(0, BrushStyle::None);
+    surface.Box(CanvasBox(in.view, area));
+  }
+  surface.SetPen(0);
+}
+
+void DisplayMeshes(Surface& surface, const PaintInput& in) {
+  for (const MeshRec& mesh : in.project.Meshes) {
+    if (!Meets(in.view, mesh.Box)) continue;
+    HatchedBox(surface, CanvasBox(in.view, mesh.Box), mesh.Selected ? Rgb(0, 255, 255) : Rgb(0, 255, 0));
+  }
+}
+
+void DisplayPhotos(Surface& surface, const PaintInput& in) {
+  for (const PhotoRec& photo : in.project.Photos) {
+    if (!Meets(in.view, photo.Box)) continue;
+    HatchedBox(surface, CanvasBox(in.view, photo.Box), photo.Selected ? Rgb(255, 255, 0) : Rgb(0, 255, 0));
+  }
+}
+
+void DisplayFills(Surface& surface, const PaintInput& in) {
+  surface.SetPen(0);
+  for (const FillRec& fill : in.project.Fills) {
+    if (!Meets(in.view, fill.Box)) continue;
+    surface.SetBrush(FillColor(fill, in.settings));
+    surface.Box(CanvasBox(in.view, fill.Box));
+  }
+}
+
+void DisplayExcludes(Surface& surface, const PaintInput& in) {
+  const bool editing = in.tool.Mode == ModeId::Exclude;
+  for (const ExcludeRec& exclude : in.project.Excludes) {
+    if (!Meets(in.view, exclude.Box)) continue;
+    const PixelBox box = CanvasBox(in.view, exclude.Box);
+    surface.SetPen(exclude.Selected ? in.settings.ExcColorSel : in.settings.ExcColorUns, editing ? 2 : 1);
+    DrawEdges(surface, box);
+    if (!editing) continue;
+    surface.SetPen(HandleColor);
+    surface.SetBrush(HandleColor);
+    DrawHandle(surface, box.left, box.top);
+    DrawHandle(surface, box.right, box.bottom);
+  }
+}
+
+}  // namespace landsmith

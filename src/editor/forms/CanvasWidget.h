@@ -1,0 +1,59 @@
+// The canvas: two images, the base and the overlay on top of it, and the translation of the window system's
+// events into the editor's plain ones. It knows nothing of what is drawn or of what an event means.
+#pragma once
+
+#include "editor/Display.h"
+#include "editor/Editor.h"
+#include "forms/QtSurface.h"
+
+#include <QImage>
+#include <QWidget>
+
+#include <memory>
+#include <optional>
+
+namespace landsmith {
+
+class CanvasWidget final : public QWidget, public CanvasSurfaces {
+  Q_OBJECT
+
+public:
+  explicit CanvasWidget(QWidget* parent = nullptr);
+
+  /// Events go to `editor` from now on; null stops them.
+  void Connect(Editor* editor);
+
+  Surface& Base() override { return *m_baseSurface; }
+  Surface& Overlay() override { return *m_overlaySurface; }
+  void ClearBase(std::int32_t color) override;
+  void ClearOverlay() override;
+  void Present() override { update(); }
+
+protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  /// A real double click arrives as press, release, double click, release: the third is a press like the
+  /// first.
+  void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+
+private:
+  void MakeImages();
+  PointerInput ToPointer(QPoint at, MouseButton button, Qt::KeyboardModifiers modifiers) const;
+
+  Editor* m_editor = nullptr;
+  std::shared_ptr<PictureCache> m_pictures = std::make_shared<PictureCache>();
+  QImage m_base, m_overlay;
+  std::unique_ptr<QtSurface> m_baseSurface, m_overlaySurface;
+};
+
+/// The editor's input for a key of the window system, or nothing for a key that it does not know.
+std::optional<KeyInput> ToKeyInput(const QKeyEvent& event);
+
+}  // namespace landsmith

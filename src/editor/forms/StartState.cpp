@@ -1,0 +1,117 @@
+// What is enabled and checked in the main window, read from the editor's state each time.
+#include "core/Text.h"
+#include "forms/QtText.h"
+#include "forms/StartTables.h"
+#include "forms/frmStart.h"
+#include "platform/Paths.h"
+#include "ui_frmStart.h"
+
+#include <QAction>
+
+#include <algorithm>
+#include <filesystem>
+
+namespace landsmith {
+
+QAction& frmStart::Action(const QString& name) {
+  return *findChild<QAction*>(name);
+}
+
+void frmStart::RefreshUi() {
+  if (!m_editor) return;  // the editor speaks while it is being made
+  setWindowTitle(ToQString(m_editor->Caption()));
+  RefreshFileMenu();
+  RefreshEditMenu();
+  RefreshViewMenu();
+  RefreshSelectMenu();
+  RefreshModes();
+  RefreshTutorials();
+}
+
+void frmStart::RefreshFileMenu() {
+  const bool open = m_editor->HasProject();
+  m_ui->mnuFSave->setEnabled(open && m_editor->MaySave());
+  for (QAction* action :
+       {m_ui->mnuFSaveAs, m_ui->tbSaveAction, m_ui->mnuFProperties, m_ui->mnuFASurfer, m_ui->mnuFBGL})
+    action->setEnabled(open);
+  RefreshRecentFiles();
+}
+
+void frmStart::RefreshRecentFiles() {
+  bool any = false;
+  for (std::size_t i = 0; i < m_session.recent.size(); ++i) {
+    const std::string& path = m_session.recent[i];
+    QAction& item = Action(QStringLiteral("mnuRecentFile%1").arg(i + 1));
+    item.setVisible(!path.empty());
+    item.setText(QStringLiteral("&%1  ").arg(i + 1) + LiteralText(ShortenPath(path, RecentNameLength)));
+    any = any || !path.empty();
+  }
+  m_ui->mnuSep->setVisible(any);
+}
+
+void frmStart::RefreshEditMenu() {
+  const bool open = m_editor->HasProject();
+  const Selection& selected = m_session.tool.Selected;
+  m_ui->mnuEDelete->setEnabled(open && selected.SelectedCount > 0);
+  m_ui->mnuEInvert->setEnabled(open);
+  m_ui->mnuESnapLOD->setEnabled(open && selected.SelectionActive);
+}
+
+void frmStart::RefreshViewMenu() {
+  const bool open = m_editor->HasProject();
+  const ViewState& view = m_session.view;
+  bool all = true;
+  for (const KindRow& row : KindTable) {
+    QAction& item = Action(QStringLiteral("mnuV") + QLatin1String(row.key));
+    item.setEnabled(open);
+    item.setChecked(view.Shows(row.kind));
+    all = all && view.Shows(row.kind);
+  }
+  m_ui->mnuVAll->setEnabled(open);
+  m_ui->mnuVAll->setChecked(all);
+  m_ui->mnuGrid->setEnabled(open);
+  for (const int level : GridLevels)
+    Action(QStringLiteral("mnuG%1").arg(level)).setChecked(view.GridLod == level);
+  m_ui->mnuVBitmap->setEnabled(false);
+  m_ui->mnuVZoomIn->setEnabled(open);
+  m_ui->mnuVZoomOut->setEnabled(open);
+}
+
+void frmStart::RefreshSelectMenu() {
+  const bool open = m_editor->HasProject();
+  const ModeId mode = m_session.tool.Mode;
+  // A mode that edits one kind selects that kind alone.
+  const bool anyKind = mode == ModeId::Pointer || mode == ModeId::Zoom;
+  const bool nothing = !m_session.tool.Selected.SelectionActive;
+  for (const KindRow& row : KindTable) {
+    QAction& item = Action(QStringLiteral("mnuS") + QLatin1String(row.key));
+    item.setEnabled(open && m_session.view.Shows(row.kind) && (anyKind || mode == row.mode));
+    if (nothing) item.setChecked(false);
+  }
+  for (QAction* all : {m_ui->mnuSAll, m_ui->mnuESelectAll}) {
+    all->setEnabled(open && anyKind);
+    if (nothing) all->setChecked(false);
+  }
+}
+
+void frmStart::RefreshModes() {
+  const bool open = m_editor->HasProject();
+  for (const ModeRow& row : ModeTable) {
+    QAction& item = Action(QStringLiteral("mnuO") + QLatin1String(row.key));
+    item.setEnabled(open && row.available);
+    item.setChecked(open && m_session.tool.Mode == row.mode);
+  }
+}
+
+void frmStart::RefreshTutorials() {
+  for (std::size_t i = 0; i < m_session.settings.Link.size(); ++i) {
+    const std::string& link = m_session.settings.Link[i];
+    QAction& item = Action(QStringLiteral("mnuHTutorial%1").arg(i + 1));
+    item.setText(LiteralText(m_session.settings.Title[i]));
+    const bool onTheWeb = EqualsIgnoringCase(link.substr(0, 4), "http");
+    const bool present = !link.empty() && FindExisting(PathText(m_session.folders.Html() / link)).has_value();
+    item.setEnabled(onTheWeb || present);
+  }
+}
+
+}  // namespace landsmith

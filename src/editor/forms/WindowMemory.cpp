@@ -1,0 +1,40 @@
+#include "forms/WindowMemory.h"
+
+#include "core/IniFile.h"
+#include "platform/RuntimeError.h"
+
+#include <QMainWindow>
+
+namespace landsmith {
+
+namespace {
+
+const char* const FileName = "window.ini";
+const char* const Section = "Window";
+const char* const GeometryKey = "Geometry";
+const char* const StateKey = "State";
+
+QByteArray ReadBytes(const std::filesystem::path& file, const char* key) {
+  return QByteArray::fromBase64(QByteArray::fromStdString(ReadIniKey(file, Section, key)));
+}
+
+}  // namespace
+
+void RestoreWindow(QMainWindow& window, const std::filesystem::path& appPath) {
+  const std::filesystem::path file = appPath / FileName;
+  if (!std::filesystem::exists(file)) return;
+  window.restoreGeometry(ReadBytes(file, GeometryKey));
+  window.restoreState(ReadBytes(file, StateKey));
+}
+
+void RememberWindow(const QMainWindow& window, const std::filesystem::path& appPath) {
+  const std::filesystem::path file = appPath / FileName;
+  try {
+    WriteIniKey(file, Section, GeometryKey, window.saveGeometry().toBase64().toStdString());
+    WriteIniKey(file, Section, StateKey, window.saveState().toBase64().toStdString());
+  } catch (const RuntimeError&) {
+    return;
+  }
+}
+
+}  // namespace landsmith

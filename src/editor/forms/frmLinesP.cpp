@@ -1,0 +1,230 @@
+#include "forms/frmLinesP.h"
+
+#include "core/Numbers.h"
+#include "editor/Edit.h"
+#include "forms/FormGuard.h"
+#include "forms/LineWidths.h"
+#include "ui_frmLinesP.h"
+#include "vector/LineJoin.h"
+
+#include <QRegularExpressionValidator>
+
+#include <algorithm>
+
+namespace landsmith {
+
+frmLinesP::frmLinesP(Session& session, Display& display, QWidget* parent)
+    : QDialog(parent), m_session(session), m_display(display), m_ui(std::make_unique<Ui::frmLinesP>()) {
+  m_ui->setupUi(this);
+  m_ui->txtLayer->setValidator(new QRegularExpressionValidator(QRegularExpression("[0-9]*"), this));
+  m_type = std::make_unique<LineTypeFields>(session, *m_ui, this);
+  ConnectControls();
+}
+
+frmLinesP::~frmLinesP() = default;
+
+void frmLinesP::ConnectControls() {
+  const auto run = [this](QPushButton* button, void (frmLinesP::*command)()) {
+    connect(button, &QPushButton::clicked, this,
+            [this, command] { RunGuarded(m_session.dialogs, [&] { (this->*command)(); }); });
+  };
+  run(m_ui->cmdWidth, &frmLinesP::ChangeWidth);
+  run(m_ui->cmdWidth12, &frmLinesP::ChangeProgressiveWidth);
+  run(m_ui->cmdChange, &frmLinesP::ChangeOrder);
+  run(m_ui->cmdReverse, &frmLinesP::Reverse);
+  run(m_ui->cmdPoly, &frmLinesP::MakePolyOrJoin);
+  connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmLinesP::accept);
+}
+
+void frmLinesP::SetMode(Mode mode) {
+  m_mode = mode;
+  m_ui->lbName->setEnabled(mode == Mode::One);
+  m_ui->txtName->setEnabled(mode == Mode::One);
+  m_ui->Frame1->setEnabled(mode == Mode::One);
+  const bool hasGeometry = mode != Mode::Defaults;
+  for (QWidget* part : {static_cast<QWidget*>(m_ui->lbName), static_cast<QWidget*>(m_ui->txtName),
+                        static_cast<QWidget*>(m_ui->Frame1), static_cast<QWidget*>(m_ui->cmdPoly),
+                        static_cast<QWidget*>(m_ui->cmdReverse), static_cast<QWidget*>(m_ui->cmdCheckLine)})
+    part->setVisible(hasGeometry);
+}
+
+void frmLinesP::ShowOne(std::size_t line) {
+  m_line = line;
+  SetMode(Mode::One);
+  const LineRec& record = m_session.project.Lines.at(line);
+  m_ui->txtName->setText(QString::fromStdString(record.Name));
+  m_type->Show(record.Type, record.Color);
+  if (!record.Points.empty())
+    ShowWidths(MeanWidth(record), record.Points.front().Wid, record.Points.back().Wid);
+  ShowOrder();
+}
+
+void frmLinesP::ShowMany() {
+  SetMode(Mode::Many);
+  const std::vector<std::size_t> selected = Lines();
+  setWindowTitle(tr("Properties of %1 Lines").arg(selected.size()));
+  const bool two = m_session.tool.Selected.SelectedCount == 2;
+  m_ui->cmdPoly->setEnabled(two);
+  if (two) {
+    m_ui->cmdPoly->setText(tr("&Join"));
+    m_ui->cmdPoly->setToolTip(tr("Makes one line of the two selected ones."));
+  }
+  m_ui->cmdReverse->setEnabled(!selected.empty());
+  if (selected.empty()) return;
+  const std::vector<LineRec>& lines = m_session.project.Lines;
+  const LineRec& first = lines[selected.front()];
+  const bool alike = std::all_of(selected.begin(), selected.end(), [&](std::size_t line) {
+    return lines[line].Type == first.Type && lines[line].Color == first.Color;
+  });
+  m_type->Show(alike ? std::optional(first.Type) : std::nullopt, first.Color);
+}
+
+void frmLinesP::ShowDefaults(LineDefaults& defaults, const QString& mode) {
+  m_defaults = &defaults;
+  SetMode(Mode::Defaults);
+  setWindowTitle(tr("Imported Lines (%1)").arg(mode));
+  m_type->Show(defaults.Type, defaults.Color);
+  ShowWidths((defaults.FirstWidth + defaults.LastWidth) / 2, defaults.FirstWidth, defaults.LastWidth);
+  resize(width(), minimumSizeHint().height());
+}
+
+void frmLinesP::ShowWidths(float mean, float first, float last) {
+  m_ui->txtWidth->setText(QString::fromStdString(NumberText(mean)));
+  m_ui->txtWidth1->setText(QString::fromStdString(NumberText(first)));
+  m_ui->txtWidth2->setText(QString::fromStdString(NumberText(last)));
+}
+
+void frmLinesP::ShowOrder() {
+  m_ui->lbOrder->setText(
+      QStringLiteral("Line = %1 out of %2").arg(m_line + 1).arg(m_session.project.Lines.size()));
+}
+
+std::vector<std::size_t> frmLinesP::Lines() const {
+  std::vector<std::size_t> lines;
+  if (m_mode == Mode::One) lines.push_back(m_line);
+  if (m_mode != Mode::Many) return lines;
+  for (std::size_t i = 0; i < m_session.project.Lines.size(); ++i)
+    if (m_session.project.Lines[i].Selected) lines.push_back(i);
+  return lines;
+}
+
+void frmLinesP::ChangeWidth() {
+  const QString text = m_ui->txtWidth->text();
+  if (const std::string refused = CheckWidths({text.toStdString()}); !refused.empty())
+    return m_session.dialogs.Message(MessageKind::Error, refused);
+  const std::optional<float> width = ParseFloat(text.toStdString());
+  if (!width) return;
+  if (m_mode != Mode::Defaults) {
+    Edit edit(m_session, m_display);
+    for (const std::size_t line : Lines())
+      SetLineWidth(edit.Project().Lines[line], *width);
+  }
+  m_ui->txtWidth1->setText(text);
+  m_ui->txtWidth2->setText(text);
+}
+
+std::optional<std::pair<float, float>> frmLinesP::ReadEndWidths() {
+  const std::string first = m_ui->txtWidth1->text().toStdString();
+  const std::string last = m_ui->txtWidth2->text().toStdString();
+  if (const std::string refused = CheckWidths({first, last}); !refused.empty()) {
+    m_session.dialogs.Message(MessageKind::Error, refused);
+    return {};
+  }
+  const std::optional<float> firstWidth = ParseFloat(first);
+  const std::optional<float> lastWidth = ParseFloat(last);
+  if (!firstWidth || !lastWidth) return {};
+  return std::pair{*firstWidth, *lastWidth};
+}
+
+void frmLinesP::ChangeProgressiveWidth() {
+  const auto widths = ReadEndWidths();
+  if (!widths) return;
+  if (m_mode != Mode::Defaults) {
+    Edit edit(m_session, m_display);
+    for (const std::size_t line : Lines())
+      SetLineWidths(edit.Project().Lines[line], widths->first, widths->second);
+  }
+  m_ui->txtWidth->setText(QString::fromStdString(NumberText((widths->first + widths->second) / 2)));
+}
+
+void frmLinesP::ChangeOrder() {
+  DrawingOrder order = DrawingOrder::Top;
+  if (m_ui->opBottom->isChecked()) order = DrawingOrder::Bottom;
+  if (m_ui->opUp->isChecked()) order = DrawingOrder::Up;
+  if (m_ui->opDown->isChecked()) order = DrawingOrder::Down;
+  Edit edit(m_session, m_display);
+  m_line = ChangeLineOrder(edit.Project(), m_line, order);
+  ShowOrder();
+}
+
+void frmLinesP::Reverse() {
+  Edit edit(m_session, m_display);
+  for (const std::size_t line : Lines())
+    ReverseLine(edit.Project().Lines[line]);
+  if (m_mode != Mode::One) return;
+  const QString first = m_ui->txtWidth1->text();
+  m_ui->txtWidth1->setText(m_ui->txtWidth2->text());
+  m_ui->txtWidth2->setText(first);
+}
+
+void frmLinesP::MakePolyOrJoin() {
+  if (m_mode == Mode::One) {
+    Edit edit(m_session, m_display);
+    PolyRec poly = MakePolyFromLine(m_session.project.Lines[m_line]);
+    edit.Project().Polys.push_back(std::move(poly));
+    m_ui->cmdPoly->setEnabled(false);  // once is enough
+    return;
+  }
+  const bool wasDirty = m_session.project.Dirty;
+  std::string refused;
+  {
+    Edit edit(m_session, m_display);
+    refused = JoinLines(edit.Project(), m_session.tool.Selected);
+    if (!refused.empty()) m_session.project.Dirty = wasDirty;
+  }
+  if (refused.empty())
+    m_session.dialogs.Beep();
+  else
+    m_session.dialogs.Message(MessageKind::Error, refused);
+  QDialog::accept();
+}
+
+bool frmLinesP::StoreDefaults() {
+  const auto widths = ReadEndWidths();
+  if (!widths) return false;
+  m_defaults->FirstWidth = widths->first;
+  m_defaults->LastWidth = widths->second;
+  if (const auto choice = m_type->Changed()) {
+    m_defaults->Type = choice->Type;
+    m_defaults->Color = choice->Color.value_or(m_defaults->Color);
+  }
+  return true;
+}
+
+void frmLinesP::ApplyToLines() {
+  const std::optional<LineTypeFields::Choice> choice = m_type->Changed();
+  const std::string name = m_ui->txtName->text().toStdString();
+  const bool renames = m_mode == Mode::One && name != m_session.project.Lines[m_line].Name;
+  if (!choice && !renames) return;
+  Edit edit(m_session, m_display);
+  if (renames) edit.Project().Lines[m_line].Name = name;
+  if (!choice) return;
+  for (const std::size_t line : Lines()) {
+    LineRec& record = edit.Project().Lines[line];
+    record.Type = choice->Type;
+    record.Color = choice->Color.value_or(record.Color);
+  }
+}
+
+void frmLinesP::accept() {
+  bool stored = true;
+  const bool ran = RunGuarded(m_session.dialogs, [&] {
+    if (m_mode == Mode::Defaults)
+      stored = StoreDefaults();
+    else
+      ApplyToLines();
+  });
+  if (ran && stored) QDialog::accept();
+}
+
+}  // namespace landsmith

@@ -1,0 +1,203 @@
+#include "forms/frmStart.h"
+
+#include "core/Text.h"
+#include "forms/Icons.h"
+#include "forms/QtText.h"
+#include "forms/StartTables.h"
+#include "forms/WindowMemory.h"
+#include "forms/frmLinesP.h"
+#include "forms/frmProjectP.h"
+#include "platform/Paths.h"
+#include "ui_frmStart.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QLabel>
+#include <QMimeData>
+#include <QTimer>
+#include <QToolButton>
+#include <QUrl>
+
+#include <algorithm>
+
+namespace landsmith {
+
+namespace {
+
+/// The project file that is being dragged here, if it is one alone.
+std::optional<std::filesystem::path> DraggedProject(const QMimeData& data) {
+  const QList<QUrl> urls = data.urls();
+  if (urls.size() != 1 || !urls.constFirst().isLocalFile()) return {};
+  std::filesystem::path path = ToPath(urls.constFirst().toLocalFile());
+  if (!EqualsIgnoringCase(PathText(path.extension()), ".LSP")) return {};
+  return path;
+}
+
+}  // namespace
+
+frmStart::frmStart(Session& session, QWidget* parent)
+    : QMainWindow(parent), m_session(session), m_ui(std::make_unique<Ui::frmStart>()) {
+  m_ui->setupUi(this);
+  setWindowIcon(ProgramIcon());
+  setCentralWidget(m_ui->canvas);
+  m_status = std::make_unique<StatusPanelBar>(*m_ui->statusBar);
+  m_status->ShowSimulator(m_session.folders);
+
+  m_mouseLabel = new QLabel(m_ui->canvas);
+  m_mouseLabel->setObjectName(QStringLiteral("mouseLabel"));
+  m_mouseLabel->setTextFormat(Qt::PlainText);
+  m_mouseLabel->setAttribute(Qt::WA_TransparentForMouseEvents);
+  m_mouseLabel->setAutoFillBackground(true);
+  m_mouseLabel->setBackgroundRole(QPalette::ToolTipBase);
+  m_mouseLabel->setForegroundRole(QPalette::ToolTipText);
+  m_mouseLabel->setFrameStyle(QFrame::Box | QFrame::Plain);
+  m_mouseLabel->setMargin(2);
+  m_mouseLabel->hide();
+
+  m_editor = std::make_unique<Editor>(m_session, *m_ui->canvas, *this);
+  m_popups = std::make_unique<PopupMenus>(*m_ui->canvas, *m_editor);
+  NameToolButtons();
+  PaintIcons();
+  BindFileMenu();
+  BindEditMenu();
+  BindViewMenu();
+  BindSelectMenu();
+  BindModes();
+  BindHelpMenu();
+  m_ui->mnuVToolbar->setChecked(true);
+  RestoreWindow(*this, m_session.folders.AppPath);
+  m_ui->canvas->Connect(m_editor.get());
+  m_ui->canvas->setFocus();
+  RefreshUi();
+}
+
+frmStart::~frmStart() {
+  m_ui->canvas->Connect(nullptr);
+}
+
+void frmStart::Start(const std::optional<std::filesystem::path>& project) {
+  m_editor->NewProject(true);
+  if (project) m_editor->OpenProject(*project);
+}
+
+void frmStart::NameToolButtons() {
+  const auto name = [this](const QString& action, const QString& key) {
+    if (QWidget* button = m_ui->toolBar->widgetForAction(&Action(action)))
+      button->setObjectName(QStringLiteral("tb") + key);
+  };
+  for (const ButtonRow& row : ButtonTable)
+    name(QLatin1String(row.action), QLatin1String(row.key));
+  for (const ModeRow& row : ModeTable)
+    name(QStringLiteral("mnuO") + QLatin1String(row.key), QLatin1String(row.key));
+}
+
+void frmStart::PaintIcons() {
+  const QPalette palette = QApplication::palette();
+  for (const ButtonRow& row : ButtonTable)
+    Action(QLatin1String(row.action)).setIcon(ToolIcon(QLatin1String(row.key), palette));
+  for (const ModeRow& row : ModeTable)
+    Action(QStringLiteral("mnuO") + QLatin1String(row.key))
+        .setIcon(ToolIcon(QLatin1String(row.key), palette));
+  m_ui->mnuFSave->setIcon(ToolIcon(QStringLiteral("Save"), palette));
+  m_ui->mnuERedo->setIcon(ToolIcon(QStringLiteral("Redo"), palette));
+}
+
+void frmStart::FitToolbar() {
+  m_ui->toolBar->setVisible(m_ui->mnuVToolbar->isChecked() && m_ui->canvas->width() >= ToolbarMinWidth);
+}
+
+void frmStart::SetStatus(const StatusPanels& panels) {
+  m_status->Show(panels);
+}
+
+void frmStart::SetCursor(CursorShape shape) {
+  m_ui->canvas->setCursor(ToQCursor(shape));
+}
+
+void frmStart::ShowContextMenu(const PopupTarget& target) {
+  m_popups->Show(target);
+}
+
+void frmStart::ShowLineProperties(std::optional<std::size_t> line) {
+  frmLinesP form(m_session, m_editor->Canvas(), this);
+  if (line)
+    form.ShowOne(*line);
+  else
+    form.ShowMany();
+  form.exec();
+  RefreshUi();
+}
+
+bool frmStart::ShowProjectProperties() {
+  const bool accepted = frmProjectP(m_session, m_editor->Canvas(), this).exec() == QDialog::Accepted;
+  RefreshUi();
+  return accepted;
+}
+
+int frmStart::ToolbarHeight() const {
+  return m_ui->toolBar->isVisible() ? m_ui->toolBar->height() : 0;
+}
+
+int frmStart::StatusBarHeight() const {
+  return m_ui->statusBar->height();
+}
+
+bool frmStart::StartTimer(TimerId timer, int milliseconds) {
+  QTimer*& entry = m_timers[timer];
+  if (!entry) {
+    entry = new QTimer(this);
+    entry->setSingleShot(true);
+    entry->setTimerType(Qt::PreciseTimer);
+    connect(entry, &QTimer::timeout, this, [this, timer] { m_editor->TimerTick(timer); });
+  }
+  entry->start(milliseconds);
+  return true;
+}
+
+void frmStart::StopTimer(TimerId timer) {
+  const auto known = m_timers.find(timer);
+  if (known != m_timers.end()) known->second->stop();
+}
+
+void frmStart::ShowHoverLabel(std::string_view text, PixelPoint at) {
+  m_mouseLabel->setVisible(!text.empty());
+  if (text.empty()) return;
+  m_mouseLabel->setText(ToQString(text));
+  m_mouseLabel->adjustSize();
+  m_mouseLabel->move(at.x, at.y);
+}
+
+void frmStart::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange && m_editor) PaintIcons();
+}
+
+void frmStart::closeEvent(QCloseEvent* event) {
+  // The end of the session is not held up by a question.
+  if (!qApp->isSavingSession() && !m_editor->MayClose()) {
+    event->ignore();
+    return;
+  }
+  RememberWindow(*this, m_session.folders.AppPath);
+  event->accept();
+}
+
+void frmStart::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  FitToolbar();
+}
+
+void frmStart::dragEnterEvent(QDragEnterEvent* event) {
+  if (DraggedProject(*event->mimeData())) event->acceptProposedAction();
+}
+
+void frmStart::dropEvent(QDropEvent* event) {
+  const std::optional<std::filesystem::path> project = DraggedProject(*event->mimeData());
+  if (!project) return;
+  event->acceptProposedAction();
+  // The program that the file was dragged from waits until this event is done.
+  QTimer::singleShot(0, this, [this, path = *project] { m_editor->OpenProject(path); });
+}
+
+}  // namespace landsmith

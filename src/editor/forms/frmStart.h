@@ -1,0 +1,95 @@
+// The main window: menus, toolbar, canvas and status bar. It forwards what the user does to the Editor and
+// shows what the Editor says; it holds no state of the project.
+#pragma once
+
+#include "editor/Editor.h"
+#include "forms/PopupMenus.h"
+#include "forms/StatusPanelBar.h"
+
+#include <QMainWindow>
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+
+class QLabel;
+class QTimer;
+
+namespace landsmith {
+
+namespace Ui {
+class frmStart;
+}
+
+class frmStart final : public QMainWindow, public EditorHost {
+  Q_OBJECT
+
+public:
+  /// `session` has been started and outlives the window. The canvas is without a project until Start.
+  explicit frmStart(Session& session, QWidget* parent = nullptr);
+  ~frmStart() override;
+
+  /// The first New, then the project that a file manager passed, if any.
+  void Start(const std::optional<std::filesystem::path>& project);
+
+  Editor& TheEditor() { return *m_editor; }
+
+  // EditorHost
+  void RefreshUi() override;
+  void SetStatus(const StatusPanels& panels) override;
+  void SetCursor(CursorShape shape) override;
+  void ShowContextMenu(const PopupTarget& target) override;
+  void ShowLineProperties(std::optional<std::size_t> line) override;
+  bool ShowProjectProperties() override;
+  int ToolbarHeight() const override;
+  int StatusBarHeight() const override;
+  bool StartTimer(TimerId timer, int milliseconds) override;
+  void StopTimer(TimerId timer) override;
+  void ShowHoverLabel(std::string_view text, PixelPoint at) override;
+
+protected:
+  void changeEvent(QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+
+private:
+  // frmStart.cpp
+  void PaintIcons();
+  void NameToolButtons();
+  void FitToolbar();
+
+  // StartCommands.cpp: what each menu item does
+  void Bind(const char* action, std::function<void()> command);
+  void BindFileMenu();
+  void BindEditMenu();
+  void BindViewMenu();
+  void BindSelectMenu();
+  void BindModes();
+  void BindHelpMenu();
+  void ShowPreferences();
+  void ShowCompilation();
+  void ShowAbout();
+
+  // StartState.cpp: what is enabled and checked
+  QAction& Action(const QString& name);
+  void RefreshFileMenu();
+  void RefreshEditMenu();
+  void RefreshViewMenu();
+  void RefreshSelectMenu();
+  void RefreshModes();
+  void RefreshRecentFiles();
+  void RefreshTutorials();
+
+  Session& m_session;
+  std::unique_ptr<Ui::frmStart> m_ui;
+  std::unique_ptr<StatusPanelBar> m_status;
+  std::unique_ptr<Editor> m_editor;
+  std::unique_ptr<PopupMenus> m_popups;
+  std::map<TimerId, QTimer*> m_timers;
+  QLabel* m_mouseLabel = nullptr;
+};
+
+}  // namespace landsmith

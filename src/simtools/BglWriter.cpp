@@ -1,0 +1,48 @@
+#include "simtools/BglWriter.h"
+
+#include "core/Bytes.h"
+#include "simtools/BglLayout.h"
+
+namespace landsmith::simtools {
+
+namespace {
+
+void FillUpTo(ByteWriter& out, std::size_t size) {
+  while (out.Size() < size)
+    out.U8(0);
+}
+
+std::uint32_t Latitude(std::int32_t degrees) {
+  return static_cast<std::uint32_t>(degrees * bgl::LatitudeUnits);
+}
+
+/// The circle has 2^32 parts, so whole turns fall out by themselves.
+std::uint32_t Longitude(std::int32_t degrees) {
+  const std::int64_t turn = std::int64_t{1} << 32;
+  const std::int64_t positive = (degrees + std::int64_t{360} * 2) * turn;
+  return static_cast<std::uint32_t>((positive + 180) / 360);
+}
+
+}  // namespace
+
+std::string WriteBgl(const BglHeader& header, std::string_view vtpBlock) {
+  ByteWriter out;
+  out.U16(header.World);
+  out.U32(Latitude(header.North));
+  out.U32(Latitude(header.South));
+  out.U32(Longitude(header.East));
+  out.U32(Longitude(header.West));
+  FillUpTo(out, bgl::MagicPlace);
+  out.U32(bgl::Magic);
+  FillUpTo(out, bgl::HeaderSize);
+  if (!vtpBlock.empty()) {
+    out.PatchU32(bgl::SectionPointer, bgl::HeaderSize);
+    out.U32(bgl::SectionTableSize);
+    FillUpTo(out, bgl::HeaderSize + bgl::SectionTableSize);
+    out.PatchU32(bgl::HeaderSize + bgl::VtpSection, bgl::SectionTableSize);
+    out.Bytes(vtpBlock);
+  }
+  return out.Take();
+}
+
+}  // namespace landsmith::simtools

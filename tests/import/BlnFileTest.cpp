@@ -1,0 +1,221 @@
+#include "import/BlnFile.h"
+#include "platform/Paths.h"
+#include "platform/RuntimeError.h"
+#include "support/TempFolder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <fstream>
+#include <iostream>
+
+namespace landsmith {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+template <class Path>
+std::vector<double> Lons(const Path& path) {
+  std::vector<double> lons;
+  for (const auto& point : path.Points)
+    lons.push_back(point.Lon);
+  return lons;
+}
+
+std::vector<float> Widths(const LineRec& line) {
+  std::vector<float> widths;
+  for (const LinePoint& point : line.Points)
+    widths.push_back(point.Wid);
+  return widths;
+}
+
+/// Imports a file with this content into an empty project.
+ProjectState Imported(std::string_view content, const AppSettings& settings) {
+  const test::TempFolder folder;
+  WriteWholeFile(folder / "a.bln", content);
+  ProjectState project;
+  ImportBLN(folder / "a.bln", project, settings);
+  return project;
+}
+
+struct HeaderRow {
+  const char* name;
+  const char* header;
+  char separator;
+  const char* itemName;
+};
+
+class BlnHeader : public testing::TestWithParam<HeaderRow> {};
+
+TEST_P(BlnHeader, GivesTheName) {
+  const HeaderRow& row = GetParam();
+  const std::string point = std::string("1") + row.separator + "2\r\n";
+  const auto items = ParseBln(row.header + ("\r\n" + point), row.separator, "a.bln");
+  ASSERT_EQ(items.size(), 1U);
+  EXPECT_EQ(items[0].Name, row.itemName);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, BlnHeader,
+                         testing::Values(HeaderRow{"countAlone", "1", ',', ""},
+                                         HeaderRow{"name", "1,Main road", ',', "Main road"},
+                                         HeaderRow{"blanksAround", " 1 ,  Main road ", ',', "Main road"},
+                                         HeaderRow{"flagOne", "1,1,lake", ',', "lake"},
+                                         HeaderRow{"flagZero", "1,0,lake, west", ',', "lake, west"},
+                                         HeaderRow{"flagAndNothing", "1,1,", ',', ""},
+                                         HeaderRow{"flagWithoutSecondSeparator", "1,1", ',', "1"},
+                                         HeaderRow{"otherDigit", "1,2,lake", ',', "2,lake"},
+                                         HeaderRow{"tab", "1\t1\tlake", '\t', "lake"},
+                                         HeaderRow{"letterOfTheCodePage", "1,Caf\xE9", ',', "Caf\xC3\xA9"}),
+                         [](const auto& row) { return row.param.name; });
+
+TEST(BlnText, TakesLooseLineEndsAndBlanks) {
+  const auto items = ParseBln("2,a\n 1.5 , -2e1 , 7 \n3,4,,9\r\n1\r\n5,6,2.5\r\n\r\n  \n", ',', "a.bln");
+  ASSERT_EQ(items.size(), 2U);
+  const BlnPoint& first = items[0].Points[0];
+  EXPECT_EQ(first.Lon, 1.5);
+  EXPECT_EQ(first.Lat, -20);
+  EXPECT_EQ(first.Wid, 7);
+  EXPECT_EQ(items[0].Points[1].Wid, 0) << "an empty third field is none";
+  EXPECT_EQ(items[1].Points[0].Wid, 2.5F);
+}
+
+struct BadRow {
+  const char* name;
+  const char* text;
+  const char* line;
+};
+
+class BadBln : public testing::TestWithParam<BadRow> {};
+
+TEST_P(BadBln, IsRefusedWithItsLineAndLeavesTheProject) {
+  const test::TempFolder folder;
+  WriteWholeFile(folder / "bad.bln", GetParam().text);
+  ProjectState project;
+  try {
+    ImportBLN(folder / "bad.bln", project, AppSettings{});
+    FAIL() << "accepted";
+  } catch (const RuntimeError& error) {
+    EXPECT_THAT(error.what(), HasSubstr("bad.bln"));
+    EXPECT_THAT(error.what(), HasSubstr(GetParam().line));
+  }
+  EXPECT_TRUE(project.Lines.empty() && project.Polys.empty());
+}
+
+INSTANTIATE_TEST_SUITE_P(All, BadBln,
+                         testing::Values(BadRow{"headerIsNoNumber", "1,a\n1,2\nroad\n", "line 3"},
+                                         BadRow{"pointWithoutSeparator", "2,a\n1,2\n3 4\n", "line 3"},
+                                         BadRow{"pointIsNoNumber", "2,a\n1,2\n1,north\n", "line 3"},
+                                         BadRow{"widthIsNoNumber", "1,a\n1,2,wide\n", "line 2"},
+                                         BadRow{"pointsMissing", "1,a\n1,2\n3,b\n1,2\n3,4\n", "line 3"},
+                                         BadRow{"countBeyondAllMemory", "2000000000\n1,2\n", "line 1"},
+                                         BadRow{"countBelowZero", "-1\n", "line 1"},
+                                         BadRow{"blankLineBetween", "1,a\n1,2\n\n1,b\n1,2\n", "line 3"}),
+                         [](const auto& row) { return row.param.name; });
+
+TEST(BlnImport, ClosedItemsBecomePolygonsAndLines) {
+  AppSettings settings;
+  settings.BLNPolyType = "LWM//Water//0//0//1//1//";
+  settings.BLNPolyColor = 11;
+  settings.BLNLineType = "VTP//4//1//";
+  settings.BLNLineColor = 22;
+  settings.BLNStartWidth = 10;
+  settings.BLNEndWidth = 40;
+  const char* const text = "4,1,lake\n1,1,9\n2,1,9\n2,3,9\n1,1,9\n4\n5,5\n6,5\n6,6\n5,5\n";
+
+  ProjectState project = Imported(text, settings);
+  ASSERT_EQ(project.Polys.size(), 2U);
+  const PolyRec& lake = project.Polys[0];
+  EXPECT_EQ(lake.Name, "lake");
+  EXPECT_EQ(lake.Type, "LWM//Water//0//0//1//1//");
+  EXPECT_EQ(lake.Color, 11);
+  EXPECT_THAT(Lons(lake), ElementsAre(1, 2, 2));
+  EXPECT_EQ(lake.Points[0].Alt, 0);
+  EXPECT_EQ(lake.Box, (GeoBox{3, 1, 1, 2}));
+  EXPECT_EQ(project.Polys[1].Name, "3_Points_Poly");
+  ASSERT_EQ(project.Lines.size(), 2U);
+  const LineRec& shore = project.Lines[0];
+  EXPECT_EQ(shore.Name, "lake");
+  EXPECT_EQ(shore.Type, "VTP//4//1//");
+  EXPECT_EQ(shore.Color, 22);
+  EXPECT_THAT(Widths(shore), ElementsAre(10, 20, 30, 40)) << "never from the third field";
+  EXPECT_EQ(project.Lines[1].Name, "4_Points_Line");
+
+  settings.BLNAutoLine = false;
+  project = Imported(text, settings);
+  EXPECT_EQ(project.Polys.size(), 2U);
+  EXPECT_TRUE(project.Lines.empty());
+}
+
+TEST(BlnImport, OpenItemsBecomeLines) {
+  AppSettings settings;
+  settings.BLNStartWidth = 10;
+  settings.BLNEndWidth = 20;
+  const char* const text = "3,road\n1,1,7\n2,1\n1,1.0000001,3\n1\n8,8\n0,nothing\n";
+
+  ProjectState project = Imported(text, settings);
+  ASSERT_EQ(project.Lines.size(), 2U);
+  EXPECT_TRUE(project.Polys.empty());
+  EXPECT_EQ(project.Lines[0].Name, "road");
+  EXPECT_THAT(Widths(project.Lines[0]), ElementsAre(7, 0, 3));
+  EXPECT_EQ(project.Lines[0].Box, (GeoBox{1.0000001, 1, 1, 2}));
+  EXPECT_EQ(project.Lines[1].Name, "1_Points_Line");
+
+  settings.BLNWidths = false;
+  project = Imported("3,road\n1,1,tarmac\n2,1\n1,2\n1\n8,8\n", settings);
+  EXPECT_THAT(Widths(project.Lines[0]), ElementsAre(10, 15, 20)) << "nobody looks at the third field";
+  EXPECT_THAT(Widths(project.Lines[1]), ElementsAre(10)) << "a single point takes the start width";
+}
+
+TEST(BlnImport, AppendsBehindWhatIsThereAndKeepsTheOrderOfTheFile) {
+  const test::TempFolder folder;
+  WriteWholeFile(folder / "a.bln", "2;b\n1;1\n2;2\n2;c\n1;1\n2;2\n");
+  ProjectState project;
+  project.Lines.emplace_back().Name = "a";
+  AppSettings settings;
+  settings.BLNSeparator = ";";
+  ImportBLN(folder / "a.bln", project, settings);
+  std::string names;
+  for (const LineRec& line : project.Lines)
+    names += line.Name;
+  EXPECT_EQ(names, "abc");
+}
+
+TEST(BlnSeparator, MayBeAWord) {
+  AppSettings settings;
+  EXPECT_EQ(BlnSeparatorOf(settings), ',');
+  settings.BLNSeparator = "tab";
+  EXPECT_EQ(BlnSeparatorOf(settings), '\t');
+  settings.BLNSeparator = "\xC2\xA7";
+  EXPECT_EQ(BlnSeparatorOf(settings), '\xA7') << "one byte in the file";
+}
+
+/// Counts in a file by its headers alone: an item is skipped by its announced number of lines.
+std::size_t ItemsByHeaders(const std::filesystem::path& file) {
+  std::ifstream in(file);
+  std::size_t items = 0;
+  for (std::string line; std::getline(in, line) && !line.empty(); ++items)
+    for (int points = std::stoi(line); points > 0; --points)
+      std::getline(in, line);
+  return items;
+}
+
+/// LANDSMITH_BLN_FOLDER names a folder of BLN files in circulation.
+TEST(BlnInCirculation, IsReadWhole) {
+  const char* const folder = std::getenv("LANDSMITH_BLN_FOLDER");
+  if (folder == nullptr) GTEST_SKIP() << "LANDSMITH_BLN_FOLDER is not set";
+  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+    if (entry.path().extension() != ".bln") continue;
+    ProjectState project;
+    AppSettings settings;
+    settings.BLNAutoLine = false;
+    ImportBLN(entry.path(), project, settings);
+    EXPECT_EQ(project.Lines.size() + project.Polys.size(), ItemsByHeaders(entry.path())) << entry.path();
+    std::cout << entry.path().filename() << ": " << project.Lines.size() << " lines, " << project.Polys.size()
+              << " polygons\n";
+  }
+}
+
+}  // namespace
+}  // namespace landsmith
