@@ -97,8 +97,8 @@ VTPTextureList( 5
         "a.bmp;b.bmp" 1 0 0 4 
         lost 0 0 0 4
         1280 0 0 0 4
-        Road 0 0 0 4
-        ROAD 0 0 0 4
+        Road.bmp 1 0 0 4
+        ROAD.BMP 1 0 0 4
         )
 
 VTPEnd

@@ -50,7 +50,7 @@ VTPIndexList( 2
         )
 
 VTPTextureList( 1
-        main_road.bmp
+        main_road.bmp 1 0 0 4
         )
 
 VTPEnd
