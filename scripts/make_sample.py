@@ -14,7 +14,7 @@ METRES_PER_DEGREE = 111330.0
 CENTER = (32.745, -16.97)  # latitude, longitude
 ZOOM = 2.0
 SCALE_LON = METRES_PER_DEGREE * math.cos(math.radians(CENTER[0]))
-SPACING = 120.0  # metres between the vertices of a curve
+SPACING = 250.0  # metres between the vertices of a curve
 
 # The ridge that coast roads keep away from the sea towards.
 RIDGE = [(-17.19, 32.815), (-17.05, 32.755), (-16.93, 32.735), (-16.80, 32.733), (-16.74, 32.747)]
@@ -90,7 +90,7 @@ def winding(curve, depth):
     for before, at, after in zip(curve, curve[1:], curve[2:]):
         walked += math.dist(before, at)
         swing = depth * math.sin(math.pi * walked / length) * (
-            math.sin(walked / 210.0) + 0.6 * math.sin(walked / 83.0 + 1.0))
+            math.sin(walked / 310.0) + 0.5 * math.sin(walked / 140.0 + 1.0))
         dx, dy = after[0] - before[0], after[1] - before[1]
         across = math.hypot(dx, dy) or 1.0
         result.append((at[0] - dy / across * swing, at[1] + dx / across * swing))
@@ -112,7 +112,7 @@ def along_coast(outline, start, end, inland, step):
         if at == last:
             break
         at = (at + step) % len(ring)
-    return spline(resample(path)[::6] + [path[-1]])
+    return spline(resample(path)[::3] + [path[-1]])
 
 
 def through(*places):
@@ -207,7 +207,7 @@ def main():
     # Layer 8: roads and rails.
     sample.line("Via R\u00e1pida", "Motorway, 4 lanes", 8, 24, 16,
                 along_coast(outline, brava, (-16.749, 32.730), 1300, -1))
-    sample.line("South coast road", "Highway, 2 lanes", 8, 11, 8, along_coast(outline, brava, moniz, 1500, 1))
+    sample.line("South coast road", "Highway, 2 lanes", 8, 11, 8, along_coast(outline, brava, moniz, 1300, 1))
     sample.line("North coast road", "Main road", 8, 8, 7, along_coast(outline, moniz, santana, 900, 1))
     sample.line("Road of the north-east", "Secondary road", 8, 7, 9,
                 along_coast(outline, santana, (-16.795, 32.774), 1100, 1))

@@ -13,7 +13,7 @@
 #include <cctype>
 #include <cstdlib>
 #include <filesystem>
-#include <optional>
+#include <ostream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,6 +26,11 @@ struct CaseRun {
   BatchCase Case;
   std::string Locale;
 };
+
+/// What GoogleTest names a case by in its messages.
+std::ostream& operator<<(std::ostream& out, const CaseRun& run) {
+  return out << run.Case.File << ": " << run.Case.Claim << " (" << run.Locale << ")";
+}
 
 /// "C.UTF-8", and the German locale under whatever name the machine has it.
 std::vector<std::string> Locales() {
