@@ -64,6 +64,34 @@ TEST_F(MainWindow, EveryToolbarKeyHasItsButtonPictureAndTip) {
   EXPECT_FALSE(rig.Button("Poly").isEnabled());
 }
 
+/// Mean lightness of what is drawn in a picture, 0 black to 1 white.
+double Lightness(const QIcon& icon) {
+  const QImage image = icon.pixmap(24).toImage();
+  double sum = 0, weight = 0;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      const QColor color = image.pixelColor(x, y);
+      sum += color.lightnessF() * color.alphaF();
+      weight += color.alphaF();
+    }
+  }
+  return sum / weight;
+}
+
+TEST_F(MainWindow, PicturesFollowTheWindowFromLightToDark) {
+  rig.ShowProject();
+  const QPalette light = QApplication::palette();
+  EXPECT_LT(Lightness(rig.Button("Pointer").icon()), 0.4);
+  QPalette dark = light;
+  dark.setColor(QPalette::Window, QColor(45, 45, 48));
+  dark.setColor(QPalette::WindowText, QColor(235, 235, 235));
+  QApplication::setPalette(dark);
+  QTest::qWait(1);
+  EXPECT_GT(Lightness(rig.Button("Pointer").icon()), 0.6);
+  EXPECT_EQ(FromQColor(rig.canvas->grab().toImage().pixelColor(5, 5)), 0xFFFFFF);
+  QApplication::setPalette(light);
+}
+
 TEST_F(MainWindow, OneToolIsPressedAtATime) {
   rig.ShowProject();
   rig.Button("Line").click();
