@@ -10,20 +10,11 @@ if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
 endif()
 
-# g++ 12 sees overlapping copies in std::string's operator+ at -O3 where there are none.
-if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-  add_compile_options(-Wno-restrict)
-endif()
 
 # Results must be the same on every machine: no fused multiply-add.
 add_compile_options(-Wall -Wextra -Wconversion -Wshadow -Werror -ffp-contract=off)
-# g++ 12 takes "literal" + std::string at -O2 and above for overlapping memory; it is not.
+# g++ 12 takes "literal" + std::string for overlapping memory when it optimises; it is not.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-  add_compile_options(-Wno-restrict)
-endif()
-# g++ 12 warns of overlapping copies inside its own operator+(const char*, std::string&&) when it optimises.
-if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13
-   AND NOT CMAKE_BUILD_TYPE STREQUAL "Debug")
   add_compile_options(-Wno-restrict)
 endif()
 
