@@ -22,7 +22,11 @@ void WriteIniKey(const std::filesystem::path& file, std::string_view section, st
 std::vector<std::pair<std::string, std::string>> ReadIniSection(const std::filesystem::path& file,
                                                                 std::string_view section);
 
-/// The same on the text alone (Windows-1252 bytes as the file holds them).
+/// The whole file as it stands; made when it is missing, and made writable.
+std::string ReadIniText(const std::filesystem::path& file);
+
+/// The same on the text alone. Text, names and values are Windows-1252 bytes, as the file holds them: whoever
+/// looks many keys up, or changes many, reads and writes the file once.
 std::string FindIniKey(std::string_view text, std::string_view section, std::string_view key);
 std::string WithIniKey(std::string text, std::string_view section, std::string_view key,
                        std::string_view value);

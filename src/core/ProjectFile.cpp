@@ -2,6 +2,7 @@
 
 #include "core/Bytes.h"
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 #include <span>
@@ -21,65 +22,71 @@ struct Counters {
   std::int32_t Maps, Photos, Lands, Lines, Polys, Waters, Objects, Fills, Excludes, LCIs, Meshes;
 };
 
-bool ReadBool(ByteReader& in) {
-  return in.I16() != 0;
-}
+/// Takes fields from the file in turn. What a record's fields are, and in which order, is told once, by
+/// `Fields`, for this and for FieldWriter.
+class FieldReader {
+public:
+  template <class Record>
+  using Of = Record;
 
-void WriteBool(ByteWriter& out, bool value) {
-  out.I16(value ? -1 : 0);
-}
+  explicit FieldReader(ByteReader& in) : m_in(in) {}
 
-GeoBox ReadBox(ByteReader& in) {
-  GeoBox box;
-  box.NLat = in.F64();
-  box.SLat = in.F64();
-  box.WLon = in.F64();
-  box.ELon = in.F64();
-  return box;
-}
-
-void WriteBox(ByteWriter& out, const GeoBox& box) {
-  out.F64(box.NLat);
-  out.F64(box.SLat);
-  out.F64(box.WLon);
-  out.F64(box.ELon);
-}
-
-// The ninth bitmap names of a map, in file order.
-std::array<std::string MapRec::*, 9> BitmapNames() {
-  return {&MapRec::BMPSu, &MapRec::BMPWi, &MapRec::BMPFa, &MapRec::BMPSp, &MapRec::BMPHw,
-          &MapRec::BMPLm, &MapRec::BMPAl, &MapRec::BMPLC, &MapRec::BMPME};
-}
-
-void Read(ByteReader& in, MapRec& map) {
-  map.Name = in.Str16();
-  map.Selected = ReadBool(in);
-  for (MapLevel& level : map.Level) {
-    level.COLS = in.I32();
-    level.ROWS = in.I32();
-    level.NLat = in.F64();
-    level.SLat = in.F64();
-    level.WLon = in.F64();
-    level.ELon = in.F64();
+  template <class... Values>
+  void operator()(Values&... values) {
+    (Take(values), ...);
   }
-  for (const auto name : BitmapNames())
-    map.*name = in.Str16();
-}
-
-void Write(ByteWriter& out, const MapRec& map) {
-  out.Str16(map.Name);
-  WriteBool(out, map.Selected);
-  for (const MapLevel& level : map.Level) {
-    out.I32(level.COLS);
-    out.I32(level.ROWS);
-    out.F64(level.NLat);
-    out.F64(level.SLat);
-    out.F64(level.WLon);
-    out.F64(level.ELon);
+  template <class Point>
+  void Points(std::vector<Point>& points);
+  void Samples(ClassGrid& grid) {
+    const std::string_view samples = m_in.Bytes(ClassGrid::SampleCount);
+    std::memcpy(grid.Samples().data(), samples.data(), samples.size());
   }
-  for (const auto name : BitmapNames())
-    out.Str16(map.*name);
-}
+
+private:
+  void Take(bool& value) { value = m_in.I16() != 0; }
+  void Take(std::uint8_t& value) { value = m_in.U8(); }
+  void Take(std::int16_t& value) { value = m_in.I16(); }
+  void Take(std::int32_t& value) { value = m_in.I32(); }
+  void Take(float& value) { value = m_in.F32(); }
+  void Take(double& value) { value = m_in.F64(); }
+  void Take(std::string& value) { value = m_in.Str16(); }
+  void Take(GeoBox& box) { (*this)(box.NLat, box.SLat, box.WLon, box.ELon); }
+
+  ByteReader& m_in;
+};
+
+/// Puts fields behind each other. A flag is 16 bits wide, 0 or -1.
+class FieldWriter {
+public:
+  template <class Record>
+  using Of = const Record;
+
+  explicit FieldWriter(ByteWriter& out) : m_out(out) {}
+
+  template <class... Values>
+  void operator()(const Values&... values) {
+    (Put(values), ...);
+  }
+  template <class Point>
+  void Points(const std::vector<Point>& points);
+  void Samples(const ClassGrid& grid) {
+    const std::vector<std::uint8_t>& samples = grid.StoredSamples();
+    m_out.Bytes({reinterpret_cast<const char*>(samples.data()), samples.size()});
+    if (samples.empty()) m_out.Bytes(std::string(ClassGrid::SampleCount, '\0'));
+  }
+
+private:
+  void Put(bool value) { m_out.I16(value ? -1 : 0); }
+  void Put(std::uint8_t value) { m_out.U8(value); }
+  void Put(std::int16_t value) { m_out.I16(value); }
+  void Put(std::int32_t value) { m_out.I32(value); }
+  void Put(float value) { m_out.F32(value); }
+  void Put(double value) { m_out.F64(value); }
+  void Put(std::string_view value) { m_out.Str16(value); }
+  void Put(const GeoBox& box) { (*this)(box.NLat, box.SLat, box.WLon, box.ELon); }
+
+  ByteWriter& m_out;
+};
 
 float& Third(LinePoint& point) {
   return point.Wid;
@@ -94,9 +101,17 @@ const float& Third(const PolyPoint& point) {
   return point.Alt;
 }
 
-/// `bytes` holds exactly the run: vertices are most of a project, so nothing is checked one by one.
+/// Vertices are most of a project, so the bounds are checked once for the run and not for each of them.
+/// The number of elements counts, not the record's counter before it.
 template <class Point>
-void UnpackPoints(const char* bytes, std::vector<Point>& points) {
+void FieldReader::Points(std::vector<Point>& points) {
+  const std::int16_t dimensions = m_in.I16();
+  if (dimensions == 0) return;
+  if (dimensions != 1) m_in.Fail("an array of points with " + std::to_string(dimensions) + " dimensions");
+  const std::int32_t elements = m_in.I32();
+  m_in.I32();  // lower bound
+  points.resize(m_in.CheckedCount(elements, PointSize, "points"));
+  const char* bytes = m_in.Bytes(points.size() * PointSize).data();
   for (Point& point : points) {
     std::int16_t selected = 0;
     std::memcpy(&point.Lon, bytes, 8);
@@ -108,13 +123,14 @@ void UnpackPoints(const char* bytes, std::vector<Point>& points) {
   }
 }
 
-/// Packs a run piece by piece, in a buffer that stays in the processor's cache.
+/// Packs the run piece by piece, in a buffer that stays in the processor's cache.
 template <class Point>
-void PackPoints(ByteWriter& out, std::span<const Point> points) {
+void FieldWriter::Points(const std::vector<Point>& points) {
   constexpr std::size_t pieceLength = 256;
+  (*this)(std::int16_t{1}, static_cast<std::int32_t>(points.size()), std::int32_t{1});
   std::array<char, pieceLength * PointSize> packed;
-  while (!points.empty()) {
-    const std::span<const Point> piece = points.first(std::min(points.size(), pieceLength));
+  for (std::span<const Point> rest(points); !rest.empty();) {
+    const std::span<const Point> piece = rest.first(std::min(rest.size(), pieceLength));
     char* bytes = packed.data();
     for (const Point& point : piece) {
       const std::int16_t selected = point.Selected ? -1 : 0;
@@ -124,232 +140,107 @@ void PackPoints(ByteWriter& out, std::span<const Point> points) {
       std::memcpy(bytes + 20, &selected, 2);
       bytes += PointSize;
     }
-    out.Bytes({packed.data(), piece.size() * PointSize});
-    points = points.subspan(piece.size());
+    m_out.Bytes({packed.data(), piece.size() * PointSize});
+    rest = rest.subspan(piece.size());
   }
 }
 
-/// The array descriptor and the points behind it. The number of elements counts, not the record's counter.
-template <class Point>
-void ReadPoints(ByteReader& in, std::vector<Point>& points) {
-  const std::int16_t dimensions = in.I16();
-  if (dimensions == 0) return;
-  if (dimensions != 1) in.Fail("an array of points with " + std::to_string(dimensions) + " dimensions");
-  const std::int32_t elements = in.I32();
-  in.I32();  // lower bound
-  points.resize(in.CheckedCount(elements, PointSize, "points"));
-  UnpackPoints(in.Bytes(points.size() * PointSize).data(), points);
+template <class Stream>
+void Fields(Stream& file, typename Stream::template Of<MapRec>& map) {
+  file(map.Name, map.Selected);
+  for (auto& level : map.Level)
+    file(level.COLS, level.ROWS, level.NLat, level.SLat, level.WLon, level.ELon);
+  file(map.BMPSu, map.BMPWi, map.BMPFa, map.BMPSp, map.BMPHw, map.BMPLm, map.BMPAl, map.BMPLC, map.BMPME);
 }
 
-template <class Point>
-void Read(ByteReader& in, PathRec<Point>& path) {
-  path.Name = in.Str16();
-  path.Type = in.Str16();
-  path.Color = in.I32();
-  path.Selected = ReadBool(in);
-  in.I32();  // NoOfPoints, which the array tells again
-  ReadPoints(in, path.Points);
-  path.Box = ReadBox(in);
-  path.Flag = in.I16();
+template <class Stream, class Path>
+void PathFields(Stream& file, Path& path) {
+  auto noOfPoints = static_cast<std::int32_t>(path.Points.size());  // read, but the array tells it again
+  file(path.Name, path.Type, path.Color, path.Selected, noOfPoints);
+  file.Points(path.Points);
+  file(path.Box, path.Flag);
 }
 
-template <class Point>
-void Write(ByteWriter& out, const PathRec<Point>& path) {
-  const auto count = static_cast<std::int32_t>(path.Points.size());
-  out.Str16(path.Name);
-  out.Str16(path.Type);
-  out.I32(path.Color);
-  WriteBool(out, path.Selected);
-  out.I32(count);
-  out.I16(1);  // dimensions
-  out.I32(count);
-  out.I32(1);  // lower bound
-  PackPoints<Point>(out, path.Points);
-  WriteBox(out, path.Box);
-  out.I16(path.Flag);
+template <class Stream>
+void Fields(Stream& file, typename Stream::template Of<LineRec>& line) {
+  PathFields(file, line);
 }
 
-void Read(ByteReader& in, FillRec& fill) {
-  fill.Selected = ReadBool(in);
-  fill.Size = in.U8();
-  fill.Type = in.U8();
-  fill.Col = in.U8();
-  fill.Row = in.U8();
-  fill.Height = in.F32();
-  fill.CellX = in.I32();
-  fill.CellY = in.I32();
-  fill.Box = ReadBox(in);
+template <class Stream>
+void Fields(Stream& file, typename Stream::template Of<PolyRec>& poly) {
+  PathFields(file, poly);
 }
 
-void Write(ByteWriter& out, const FillRec& fill) {
-  WriteBool(out, fill.Selected);
-  out.U8(fill.Size);
-  out.U8(fill.Type);
-  out.U8(fill.Col);
-  out.U8(fill.Row);
-  out.F32(fill.Height);
-  out.I32(fill.CellX);
-  out.I32(fill.CellY);
-  WriteBox(out, fill.Box);
+template <class Stream>
+void Fields(Stream& file, typename Stream::template Of<FillRec>& fill) {
+  file(fill.Selected, fill.Size, fill.Type, fill.Col, fill.Row, fill.Height, fill.CellX, fill.CellY,
+       fill.Box);
 }
 
-void Read(ByteReader& in, ExcludeRec& exclude) {
-  exclude.Flag = in.I32();
-  exclude.Selected = ReadBool(in);
-  exclude.Box = ReadBox(in);
-  exclude.Corner = in.I32();
+template <class Stream>
+void Fields(Stream& file, typename Stream::template Of<ExcludeRec>& exclude) {
+  file(exclude.Flag, exclude.Selected, exclude.Box, exclude.Corner);
 }
 
-void Write(ByteWriter& out, const ExcludeRec& exclude) {
-  out.I32(exclude.Flag);
-  WriteBool(out, exclude.Selected);
-  WriteBox(out, exclude.Box);
-  out.I32(exclude.Corner);
+template <class Stream>
+void Fields(Stream& file, typename Stream::template Of<PhotoRec>& photo) {
+  file(photo.Selected, photo.CX, photo.CY, photo.AX, photo.AY, photo.Box);
 }
 
-void Read(ByteReader& in, PhotoRec& photo) {
-  photo.Selected = ReadBool(in);
-  photo.CX = in.I32();
-  photo.CY = in.I32();
-  photo.AX = in.I32();
-  photo.AY = in.I32();
-  photo.Box = ReadBox(in);
+template <class Stream>
+void Fields(Stream& file, typename Stream::template Of<ClassItemRec>& item) {
+  file(item.Text, item.Class1, item.Class2, item.Class3, item.R, item.G, item.B, item.Key);
 }
 
-void Write(ByteWriter& out, const PhotoRec& photo) {
-  WriteBool(out, photo.Selected);
-  out.I32(photo.CX);
-  out.I32(photo.CY);
-  out.I32(photo.AX);
-  out.I32(photo.AY);
-  WriteBox(out, photo.Box);
+template <class Stream>
+void Fields(Stream& file, typename Stream::template Of<MeshRec>& mesh) {
+  file(mesh.Selected, mesh.Map, mesh.X, mesh.Y, mesh.Box);
 }
 
-void Read(ByteReader& in, ClassItemRec& item) {
-  item.Text = in.Str16();
-  item.Class1 = in.U8();
-  item.Class2 = in.U8();
-  item.Class3 = in.U8();
-  item.R = in.I32();
-  item.G = in.I32();
-  item.B = in.I32();
-  item.Key = in.I32();
+template <class Stream>
+void Fields(Stream& file, typename Stream::template Of<ObjectRec>& o) {
+  file(o.Type, o.Description, o.Selected);
+  file(o.Width, o.Length, o.Heading, o.Pitch, o.Bank, o.BiasX, o.BiasY, o.BiasZ);
+  file(o.Lat, o.Lon, o.Altitude, o.AGL, o.Complexity, o.Box);
+  file(o.NoseX, o.NoseY, o.Y1, o.X1, o.Y2, o.X2, o.Y3, o.X3, o.Y4, o.X4);
 }
 
-void Write(ByteWriter& out, const ClassItemRec& item) {
-  out.Str16(item.Text);
-  out.U8(item.Class1);
-  out.U8(item.Class2);
-  out.U8(item.Class3);
-  out.I32(item.R);
-  out.I32(item.G);
-  out.I32(item.B);
-  out.I32(item.Key);
-}
-
-void Read(ByteReader& in, MeshRec& mesh) {
-  mesh.Selected = ReadBool(in);
-  mesh.Map = in.I32();
-  mesh.X = in.I32();
-  mesh.Y = in.I32();
-  mesh.Box = ReadBox(in);
-}
-
-void Write(ByteWriter& out, const MeshRec& mesh) {
-  WriteBool(out, mesh.Selected);
-  out.I32(mesh.Map);
-  out.I32(mesh.X);
-  out.I32(mesh.Y);
-  WriteBox(out, mesh.Box);
-}
-
-using ObjectFloat = float ObjectRec::*;
-constexpr std::array<ObjectFloat, 8> ObjectMeasures = {
-    &ObjectRec::Width, &ObjectRec::Length, &ObjectRec::Heading, &ObjectRec::Pitch,
-    &ObjectRec::Bank,  &ObjectRec::BiasX,  &ObjectRec::BiasY,   &ObjectRec::BiasZ};
-constexpr std::array<ObjectFloat, 10> ObjectFootprint = {
-    &ObjectRec::NoseX, &ObjectRec::NoseY, &ObjectRec::Y1, &ObjectRec::X1, &ObjectRec::Y2,
-    &ObjectRec::X2,    &ObjectRec::Y3,    &ObjectRec::X3, &ObjectRec::Y4, &ObjectRec::X4};
-
-void Read(ByteReader& in, ObjectRec& object) {
-  object.Type = in.I32();
-  object.Description = in.Str16();
-  object.Selected = ReadBool(in);
-  for (const ObjectFloat field : ObjectMeasures)
-    object.*field = in.F32();
-  object.Lat = in.F64();
-  object.Lon = in.F64();
-  object.Altitude = in.F32();
-  object.AGL = in.I32();
-  object.Complexity = in.I32();
-  object.Box = ReadBox(in);
-  for (const ObjectFloat field : ObjectFootprint)
-    object.*field = in.F32();
-}
-
-void Write(ByteWriter& out, const ObjectRec& object) {
-  out.I32(object.Type);
-  out.Str16(object.Description);
-  WriteBool(out, object.Selected);
-  for (const ObjectFloat field : ObjectMeasures)
-    out.F32(object.*field);
-  out.F64(object.Lat);
-  out.F64(object.Lon);
-  out.F32(object.Altitude);
-  out.I32(object.AGL);
-  out.I32(object.Complexity);
-  WriteBox(out, object.Box);
-  for (const ObjectFloat field : ObjectFootprint)
-    out.F32(object.*field);
+/// The counters and what else stands before the first record, behind the name.
+template <class Stream, class Folder>
+void Header(Stream& file, typename Stream::template Of<Counters>& count,
+            typename Stream::template Of<ProjectState>& project, Folder& folder1, Folder& folder2) {
+  file(count.Maps, count.Photos, count.Lands, count.Lines, count.Polys, count.Waters, count.Objects,
+       count.Fills, count.Excludes, count.LCIs, count.Meshes);
+  file(project.PhotoSeasons, folder1, folder2);
+  file(project.LatDispCenter, project.LonDispCenter, project.LatLandCenter, project.LonLandCenter);
+  file(project.ClassGridVIEW, project.Zoom);
 }
 
 template <class Record>
 void ReadAll(ByteReader& in, std::vector<Record>& records, std::int32_t announced, std::size_t leastSize,
              std::string_view what) {
+  FieldReader file(in);
   records.resize(in.CheckedCount(announced, leastSize, what));
   for (Record& record : records)
-    Read(in, record);
+    Fields(file, record);
 }
 
 template <class Record>
-void WriteAll(ByteWriter& out, const std::vector<Record>& records) {
+void WriteAll(FieldWriter& file, const std::vector<Record>& records) {
   for (const Record& record : records)
-    Write(out, record);
+    Fields(file, record);
 }
 
-void ReadGrid(ByteReader& in, ClassGrid& grid) {
-  const std::string_view samples = in.Bytes(ClassGrid::SampleCount);
-  std::memcpy(grid.Samples().data(), samples.data(), samples.size());
+template <class Records>
+std::int32_t CountOf(const Records& records) {
+  return static_cast<std::int32_t>(records.size());
 }
 
-void WriteGrid(ByteWriter& out, const ClassGrid& grid) {
-  static const std::vector<std::uint8_t> nothing(ClassGrid::SampleCount);
-  const std::vector<std::uint8_t>& samples = grid.IsAllocated() ? grid.StoredSamples() : nothing;
-  out.Bytes({reinterpret_cast<const char*>(samples.data()), samples.size()});
-}
-
-Counters ReadCounters(ByteReader& in) {
-  Counters count{};
-  for (std::int32_t* counter :
-       {&count.Maps, &count.Photos, &count.Lands, &count.Lines, &count.Polys, &count.Waters, &count.Objects,
-        &count.Fills, &count.Excludes, &count.LCIs, &count.Meshes})
-    *counter = in.I32();
-  return count;
-}
-
-void WriteCounters(ByteWriter& out, const ProjectState& project) {
-  const auto count = [&out](const auto& records) { out.I32(static_cast<std::int32_t>(records.size())); };
-  count(project.Maps);
-  count(project.Photos);
-  out.I32(project.NoOfLands);
-  count(project.Lines);
-  count(project.Polys);
-  out.I32(project.NoOfWaters);
-  count(project.Objects);
-  count(project.Fills);
-  count(project.Excludes);
-  count(project.LCI);
-  count(project.Meshes);
+Counters CountersOf(const ProjectState& project) {
+  return {CountOf(project.Maps),    CountOf(project.Photos), project.NoOfLands,
+          CountOf(project.Lines),   CountOf(project.Polys),  project.NoOfWaters,
+          CountOf(project.Objects), CountOf(project.Fills),  CountOf(project.Excludes),
+          CountOf(project.LCI),     CountOf(project.Meshes)};
 }
 
 /// What the lines or polygons take, so that the text need not grow while it is written.
@@ -366,10 +257,6 @@ std::string_view TagOf(std::string_view bytes) {
   const auto length = static_cast<std::size_t>(static_cast<unsigned char>(bytes[0]) +
                                                256 * static_cast<unsigned char>(bytes[1]));
   return bytes.size() - 2 < length ? std::string_view() : bytes.substr(2, length);
-}
-
-std::string_view StoredFolder(const std::string& folder, std::string_view defaultFolder) {
-  return folder == defaultFolder ? std::string_view() : folder;
 }
 
 }  // namespace
@@ -401,19 +288,12 @@ std::string FormatName(ProjectFormat format) {
 ProjectState ReadProject(std::string_view bytes, const std::string& file) {
   ByteReader in(bytes, "reading the project", file);
   if (FormatOfProject(bytes) != ProjectFormat::Current) in.Fail("no project of version LS205");
-  in.Str16();
+  FieldReader fields(in);
   ProjectState project;
-  project.Name = in.Str16();
-  const Counters count = ReadCounters(in);
-  project.PhotoSeasons = in.I32();
-  project.BGL1ProjectFolder = in.Str16();
-  project.BGL2ProjectFolder = in.Str16();
-  project.LatDispCenter = in.F64();
-  project.LonDispCenter = in.F64();
-  project.LatLandCenter = in.F64();
-  project.LonLandCenter = in.F64();
-  project.ClassGridVIEW = ReadBool(in);
-  project.Zoom = in.F64();
+  std::string tag;
+  Counters count{};
+  fields(tag, project.Name);
+  Header(fields, count, project, project.BGL1ProjectFolder, project.BGL2ProjectFolder);
   ReadAll(in, project.Maps, count.Maps, LeastMap, "maps");
   ReadAll(in, project.Lines, count.Lines, LeastPath, "lines");
   ReadAll(in, project.Polys, count.Polys, LeastPath, "polygons");
@@ -425,37 +305,33 @@ ProjectState ReadProject(std::string_view bytes, const std::string& file) {
   ReadAll(in, project.Objects, count.Objects, LeastObject, "objects");
   project.NoOfLands = count.Lands;
   project.NoOfWaters = count.Waters;
-  if (count.Lands > 0) ReadGrid(in, project.Lands);
-  if (count.Waters > 0) ReadGrid(in, project.Waters);
+  if (count.Lands > 0) fields.Samples(project.Lands);
+  if (count.Waters > 0) fields.Samples(project.Waters);
   return project;
 }
 
 std::string WriteProject(const ProjectState& project, std::string_view defaultFolder) {
+  const auto stored = [defaultFolder](const std::string& folder) {
+    return folder == defaultFolder ? std::string_view() : std::string_view(folder);
+  };
+  const std::string_view folder1 = stored(project.BGL1ProjectFolder);
+  const std::string_view folder2 = stored(project.BGL2ProjectFolder);
   ByteWriter out;
   out.Reserve(4096 + SizeOf(project.Lines) + SizeOf(project.Polys));
-  out.Str16(ProjectTag);
-  out.Str16(project.Name);
-  WriteCounters(out, project);
-  out.I32(project.PhotoSeasons);
-  out.Str16(StoredFolder(project.BGL1ProjectFolder, defaultFolder));
-  out.Str16(StoredFolder(project.BGL2ProjectFolder, defaultFolder));
-  out.F64(project.LatDispCenter);
-  out.F64(project.LonDispCenter);
-  out.F64(project.LatLandCenter);
-  out.F64(project.LonLandCenter);
-  WriteBool(out, project.ClassGridVIEW);
-  out.F64(project.Zoom);
-  WriteAll(out, project.Maps);
-  WriteAll(out, project.Lines);
-  WriteAll(out, project.Polys);
-  WriteAll(out, project.Fills);
-  WriteAll(out, project.Excludes);
-  WriteAll(out, project.Photos);
-  WriteAll(out, project.LCI);
-  WriteAll(out, project.Meshes);
-  WriteAll(out, project.Objects);
-  if (project.NoOfLands > 0) WriteGrid(out, project.Lands);
-  if (project.NoOfWaters > 0) WriteGrid(out, project.Waters);
+  FieldWriter fields(out);
+  fields(ProjectTag, project.Name);
+  Header(fields, CountersOf(project), project, folder1, folder2);
+  WriteAll(fields, project.Maps);
+  WriteAll(fields, project.Lines);
+  WriteAll(fields, project.Polys);
+  WriteAll(fields, project.Fills);
+  WriteAll(fields, project.Excludes);
+  WriteAll(fields, project.Photos);
+  WriteAll(fields, project.LCI);
+  WriteAll(fields, project.Meshes);
+  WriteAll(fields, project.Objects);
+  if (project.NoOfLands > 0) fields.Samples(project.Lands);
+  if (project.NoOfWaters > 0) fields.Samples(project.Waters);
   return out.Take();
 }
 
