@@ -77,6 +77,7 @@ std::vector<std::string> EnvironmentWith(const std::vector<std::string>& added) 
 
 std::vector<char*> Pointers(std::vector<std::string>& texts) {
   std::vector<char*> pointers;
+  pointers.reserve(texts.size() + 1);
   for (std::string& text : texts)
     pointers.push_back(text.data());
   pointers.push_back(nullptr);
@@ -144,9 +145,9 @@ void StartProcess(const ProcessRequest& request) {
   // The shell puts the program into the background and ends, so nobody here has to collect it later.
   ProcessRequest viaShell = request;
   std::vector<std::string>& arguments = viaShell.Command.Arguments;
-  if (arguments.empty() || access(arguments.front().c_str(), X_OK) != 0)
-    throw RuntimeError::At("starting the program", arguments.empty() ? "" : arguments.front(), "",
-                           std::strerror(errno));
+  if (arguments.empty()) throw RuntimeError::At("starting a program", "", "", "no program is named");
+  if (access(arguments.front().c_str(), X_OK) != 0)
+    throw RuntimeError::At("starting the program", arguments.front(), "", std::strerror(errno));
   arguments.front() = std::filesystem::absolute(arguments.front()).string();
   const std::vector<std::string> shell{"/bin/sh", "-c", "\"$@\" &", "sh"};
   arguments.insert(arguments.begin(), shell.begin(), shell.end());

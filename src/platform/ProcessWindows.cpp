@@ -42,8 +42,8 @@ std::string Quoted(const std::string& argument) {
   std::string text = "\"";
   std::size_t backslashes = 0;
   for (const char c : argument) {
+    if (c == '"') text.append(backslashes + 1, '\\');  // a quote keeps those in front of it too
     backslashes = c == '\\' ? backslashes + 1 : 0;
-    if (c == '"') text += '\\';
     text += c;
   }
   return text.append(backslashes, '\\') + "\"";

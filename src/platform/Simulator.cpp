@@ -19,10 +19,10 @@ std::optional<std::filesystem::path> FindSimulator(std::string_view configured,
   const std::string installed = InstalledSimulator();
   for (const std::string_view folder : {std::string_view(installed), configured}) {
     if (folder.empty() || NamesForeignDrive(folder)) continue;
-    const auto found = FindExisting(folder);
+    auto found = FindExisting(folder);
     if (found && HoldsSimulator(*found)) return found;
   }
-  const auto shipped = FindInFolder(shippedData, "simulator");
+  auto shipped = FindInFolder(shippedData, "simulator");
   if (!shipped || !HoldsSimulator(*shipped)) return std::nullopt;
   asStandIn = true;
   return shipped;

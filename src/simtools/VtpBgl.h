@@ -49,7 +49,7 @@ struct VtpCell {
 
 struct VtpTextureEntry {
   std::string Name;     ///< without quotes
-  bool Quoted = false;  ///< bitmap names; otherwise a number of the simulator's own textures
+  bool Quoted = false;  ///< names bitmaps; otherwise a number of the simulator's own textures
   std::uint8_t UV = 0, Kind = 0, U = 0;
   std::string Controller;  ///< with kind 1 alone
   bool operator==(const VtpTextureEntry&) const = default;

@@ -127,7 +127,8 @@ void VtpChecker::CPoint(const Statement& statement, bool complete) {
 void VtpChecker::IndexList(const Statement& statement, bool complete) {
   CloseDownTo(Block::Cell);
   if (!AdvanceTo(Stage::AfterIndex, statement) || !complete) return;
-  const auto count = NumberArgument(statement, 0, {"the number of cells", 0, 1023 * 1023}, m_errors);
+  const auto count =
+      NumberArgument(statement, 0, {"the number of cells", 0, std::int64_t{1023} * 1023}, m_errors);
   if (!count) return;
   const std::size_t numbers = statement.Arguments.size() - 1;
   if (numbers != static_cast<std::size_t>(*count) * 3) {
@@ -230,13 +231,13 @@ VtpChecker::OpenBlock& VtpChecker::Open(Block kind, const Statement& statement) 
 
 void VtpChecker::CloseDownTo(Block kind) {
   while (!m_open.empty() && m_open.back().Kind >= kind) {
-    OpenBlock block = std::move(m_open.back());
+    const OpenBlock block = std::move(m_open.back());
     m_open.pop_back();
-    Close(std::move(block));
+    Close(block);
   }
 }
 
-void VtpChecker::Close(OpenBlock block) {
+void VtpChecker::Close(const OpenBlock& block) {
   CheckCount(block);
   switch (block.Kind) {
     case Block::Cell:

@@ -63,7 +63,7 @@ private:
   bool AdvanceTo(Stage stage, const Statement& statement);
   OpenBlock& Open(Block kind, const Statement& statement);
   void CloseDownTo(Block kind);
-  void Close(OpenBlock block);
+  void Close(const OpenBlock& block);
   void CheckCount(const OpenBlock& block);
   void CheckCellAreas(const OpenBlock& block);
   void CheckIndexEntry(const Statement& statement, std::size_t entry);

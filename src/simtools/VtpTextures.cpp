@@ -9,7 +9,7 @@ namespace landsmith::simtools {
 namespace {
 
 constexpr std::size_t EntryArguments = 5;     // name and four numbers
-constexpr std::size_t LongestNumberName = 4;  // longer names are bitmaps and stand in quotes
+constexpr std::size_t LongestNumberName = 4;  // a longer name is a bitmap, with or without quotes
 
 bool IsQuoted(std::string_view text) {
   return text.starts_with('"');
@@ -25,10 +25,7 @@ VtpTextureEntry ReadEntry(const Statement& statement, std::size_t& first, std::v
   const std::string& name = statement.Arguments[first];
   const std::size_t line = statement.ArgumentLines[first];
   entry.Name = WithoutQuotes(name);
-  entry.Quoted = IsQuoted(name);
-  if (!entry.Quoted && name.size() > LongestNumberName)
-    errors.push_back({line, "VTPTextureList: the texture " + name +
-                                " has more than 4 characters, so it is a bitmap and wants quotes"});
+  entry.Quoted = IsQuoted(name) || name.size() > LongestNumberName;
   const auto number = [&](std::size_t place, NumberRange range) {
     return static_cast<std::uint8_t>(NumberArgument(statement, first + place, range, errors).value_or(0));
   };

@@ -119,8 +119,6 @@ INSTANTIATE_TEST_SUITE_P(
 INSTANTIATE_TEST_SUITE_P(
     Textures, ScmFaults,
     testing::Values(FaultRow{"numbers missing", "153 0 0 0 4", "153 0 0 4", 27, "153 wants four numbers"},
-                    FaultRow{"bitmap without quotes", "153 0 0 0 4", "a.bmp 0 0 0 4", 27,
-                             "a.bmp has more than 4 characters"},
                     FaultRow{"effect without controller", "153 0 0", "\"a.bmp\" 0 1", 27,
                              "has no controller"},
                     FaultRow{"effect on a number", "153 0 0 0 4", "153 0 1 0 4 wave", 27,

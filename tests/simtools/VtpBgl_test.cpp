@@ -46,17 +46,19 @@ TEST(VtpBgl, GivesBackCellsLayersTexturesAndPoints) {
       "VTPLayer( 0 1 1 0 )\n"
       "VTPTexID( 3 0 ) VTPPolyCount( 1 ) VTPPoly( 2 2 1 ) VTPWPoint( 9 9 1 7 ) VTPCPoint( -1022 1022 1 )\n"
       "VTPIndexList( 2 401 120 0 767 511 0 )\n"
-      "VTPTextureList( 4\n"
+      "VTPTextureList( 5\n"
       "  153 0 0 0 4\n"
       "  \"wi.bmp;hw.bmp;sp.bmp;su.bmp;fa.bmp;lm.bmp\" 2 1 0 4 wavecontroller\n"
       "  \"road 1.bmp\" 15 0 0 255\n"
-      "  \"a\" 1 0 0 4 )\n"
+      "  \"a\" 1 0 0 4\n"
+      "  Road.bmp 3 0 0 4 )\n"
       "VTPEnd\n");
   EXPECT_EQ(file.TexNames, (std::vector<std::string>{
                                "153",
                                "\"wi.bmp;hw.bmp;sp.bmp;su.bmp;fa.bmp;lm.bmp\" 2 1 0 4 \"wavecontroller\"",
                                "\"road 1.bmp\" 15 0 0 255",
                                "\"a\" 1 0 0 4",
+                               "\"Road.bmp\" 3 0 0 4",
                            }));
   struct Expected {
     int cellCol, cellRow, group;
