@@ -4,6 +4,8 @@
 
 #include "editor/Display.h"
 #include "editor/Edit.h"
+#include "editor/EditorHost.h"
+#include "editor/ModeContext.h"
 #include "editor/Session.h"
 #include "editor/StatusText.h"
 #include "editor/ToolMode.h"
@@ -18,40 +20,6 @@
 #include <vector>
 
 namespace landsmith {
-
-enum class CursorShape { Arrow, Cross, Pan, Zoom, Line, Move, Busy };
-
-/// What a context menu is about; empty for the general menu.
-struct PopupTarget {
-  std::string Kind;                 ///< "Line", "PtInLine", or empty
-  std::string Title;                ///< "Coast road  LINE # 3"
-  std::size_t Item = 0, Point = 0;  ///< 0-based
-  PixelOffset At;
-};
-
-/// What the editor asks of its window.
-class EditorHost {
-public:
-  virtual ~EditorHost() = default;
-  /// Caption, menus, tool buttons, zoom panel and selection state may have changed: the window reads them
-  /// anew.
-  virtual void RefreshUi() = 0;
-  virtual void SetStatus(const StatusPanels& panels) = 0;
-  virtual void SetCursor(CursorShape shape) = 0;
-  virtual void ShowContextMenu(const PopupTarget& target) = 0;
-  /// Opens `frmLinesP` for one line (0-based), or for all selected ones when empty.
-  virtual void ShowLineProperties(std::optional<std::size_t> line) = 0;
-  /// `frmProjectP` on its first tab; true after OK.
-  virtual bool ShowProjectProperties() = 0;
-  virtual int ToolbarHeight() const = 0;
-  virtual int StatusBarHeight() const = 0;
-  /// Starts or restarts a one-shot timer whose end calls Editor::TimerTick. False: this window keeps no
-  /// timers, and the editor then acts at once.
-  virtual bool StartTimer(TimerId, int /*milliseconds*/) { return false; }
-  virtual void StopTimer(TimerId) {}
-  /// The label beside the mouse, its top left corner at `at`; an empty text hides it.
-  virtual void ShowHoverLabel(std::string_view /*text*/, PixelPoint /*at*/) {}
-};
 
 class Editor {
 public:
@@ -110,15 +78,28 @@ public:
 
 private:
   void EndGesture();
-  void ShowFailure(const std::exception& failure);
+  void ReleaseGesture(const PointerInput& in);
+  void TakeMode(ModeId mode);
+  std::unique_ptr<Gesture> GestureOfPress(const PointerInput& in);
+  void OpenPendingMenu();
+  bool KeyState(const KeyInput& in, bool down);
+  void ShowStatus();
+  void ShowCursor();
+  void LeaveProject();
   void ProjectReplaced();
-  void Guard(const std::function<void()>& command);
+  bool MayDropChanges();
+  std::optional<std::filesystem::path> AskProjectPath();
+  void AfterViewChange();
+  void StepZoomBy(ZoomStep step, PixelOffset at);
+  bool Guard(const std::function<void()>& command);
 
   Session& m_session;
   Display m_display;
   EditorHost& m_host;
+  ModeContext m_context;
   std::unique_ptr<ToolMode> m_mode;
   std::unique_ptr<Gesture> m_gesture;
+  PointerInput m_lastPointer;
   int m_wheelRest = 0;
 };
 

@@ -28,6 +28,8 @@ struct KeyInput {
   bool alt = false;
 };
 
+enum class CursorShape { Arrow, Cross, Pan, Zoom, Line, Move, Busy };
+
 /// One-shot timers that the window keeps for the editor; starting one anew restarts it.
 enum class TimerId {
   DragSettle,  ///< until its tick a press on a selection is no drag
@@ -43,6 +45,7 @@ public:
   virtual void End(const PointerInput& in) = 0;
   virtual void Cancel() = 0;
   virtual void Tick(TimerId) {}
+  virtual CursorShape Cursor() const { return CursorShape::Arrow; }
   /// Drawn on top of the overlay while the drag lasts.
   virtual void Paint(Surface&) const {}
 };
@@ -55,6 +58,7 @@ public:
   virtual void Hover(const PointerInput&) {}
   virtual bool Key(const KeyInput&) { return false; }  ///< true: used
   virtual void Tick(TimerId) {}
+  virtual CursorShape Cursor() const { return CursorShape::Arrow; }
   virtual void Leave() {}                ///< ends what is half made
   virtual void Paint(Surface&) const {}  ///< rubber lines
 };

@@ -15,7 +15,8 @@ struct ToolState {
   bool PanKeyDown = false, ZoomKeyDown = false, CtrlKeyDown = false;
   bool InsertPoints = false, DeletePoints = false, BreakLine = false, WidthDown = false, WidthUp = false;
   bool NextClickIsRight = false;
-  bool Dragging = false;  ///< a selection is being moved: painters then leave the drawn flags alone
+  bool SelectAllOn = false;  ///< the next Select All clears the selection
+  bool Dragging = false;     ///< a selection is being moved: painters then leave the drawn flags alone
 };
 
 }  // namespace landsmith

@@ -1,0 +1,177 @@
+// New, open, save, append, exit.
+#include "core/RecentFiles.h"
+#include "editor/Editor.h"
+#include "editor/Modes.h"
+#include "editor/SelectKinds.h"
+#include "platform/Paths.h"
+#include "platform/RuntimeError.h"
+#include "wiring/Importers.h"
+#include "wiring/ProjectStore.h"
+
+#include <algorithm>
+
+namespace landsmith {
+
+namespace {
+
+constexpr std::string_view ProjectFilter = "Landsmith (*.LSP)|*.LSP";
+constexpr std::size_t LeastFileName = 5;  ///< a shorter ProjectFile is no file name
+
+/// Asks for a file in the folder that this dialog was last used in, and remembers the one chosen.
+std::optional<std::filesystem::path> ChooseToOpen(Session& session, std::string_view filter,
+                                                  std::string_view title, std::string AppSettings::*slot) {
+  FileRequest request;
+  request.Title = title;
+  request.Filter = std::string(filter) + "|All Files|*.*";
+  if (!(session.settings.*slot).empty()) request.Folder = MapPath(session.settings.*slot);
+  const auto path = session.dialogs.ChooseFileToOpen(request);
+  if (path) {
+    session.settings.*slot = PathText(path->parent_path());
+    SaveRecentFolders(session.folders.IniPath(), session.settings);
+  }
+  return path;
+}
+
+std::optional<std::filesystem::path> ChooseToSave(Session& session) {
+  FileRequest request;
+  request.Title = "Landsmith: Save Project As";
+  request.Filter = std::string(ProjectFilter) + "|All Files|*.*";
+  if (!session.settings.SaveDir.empty()) request.Folder = MapPath(session.settings.SaveDir);
+  if (session.project.ProjectFile.size() >= LeastFileName) request.FileName = session.project.ProjectFile;
+  auto path = session.dialogs.ChooseFileToSave(request);
+  if (!path) return path;
+  if (!path->has_extension()) path->replace_extension(".LSP");
+  session.settings.SaveDir = PathText(path->parent_path());
+  SaveRecentFolders(session.folders.IniPath(), session.settings);
+  return path;
+}
+
+void WriteProjectTo(Session& session, const std::filesystem::path& path) {
+  StoreView(session.view, session.project);
+  SaveProjectFile(session.project, path, session.folders.AppPath);
+  session.project.Dirty = false;
+}
+
+}  // namespace
+
+/// Ends what is under way while the project that it belongs to is still there.
+void Editor::LeaveProject() {
+  EndGesture();
+  m_mode->Leave();
+}
+
+/// The view, the mode and the selection after `m_session.project` has become another one.
+void Editor::ProjectReplaced() {
+  ++m_session.Revision;
+  m_session.tool = ToolState{};
+  TakeMode(ModeId::Pointer);
+  RecountSelection(m_session.project, m_session.tool.Selected);
+  ViewState& view = m_session.view;
+  view.LinesDrawn.clear();
+  view.PolysDrawn.clear();
+  view.ShowFlag.fill(true);
+  TakeViewFrom(view, m_session.project);
+  view.MapView = HasProject() ? "Summer" : "";
+  m_session.project.Dirty = false;
+  m_display.DisplayAll();
+  ShowStatus();
+  ShowCursor();
+  m_host.RefreshUi();
+}
+
+bool Editor::MayDropChanges() {
+  return !m_session.project.Dirty ||
+         m_session.dialogs.Ask(QuestionKind::YesNo, "You did not save your data! Continue ?");
+}
+
+bool Editor::MayClose() {
+  return !m_session.project.Dirty ||
+         m_session.dialogs.Ask(QuestionKind::YesNo, "You did not save your data! Really want to exit ?");
+}
+
+void Editor::NewProject(bool atStart) {
+  if (!MayDropChanges()) return;
+  Guard([&] {
+    const AppSettings settings = LoadSettings(m_session.folders.IniPath(), m_session.folders.AppPath);
+    LeaveProject();
+    m_session.settings = settings;
+    m_session.project = EmptyProject(m_session.settings);
+    ProjectReplaced();
+    // The canvas stays dead until the user has confirmed the new project.
+    if (atStart || !m_host.ShowProjectProperties()) return;
+    m_session.project.ProjectOpen = true;
+    ProjectReplaced();
+    m_session.view.MapView.clear();
+  });
+}
+
+std::optional<std::filesystem::path> Editor::AskProjectPath() {
+  return ChooseToOpen(m_session, ProjectFilter, "Landsmith: Open Project", &AppSettings::OpenDir);
+}
+
+void Editor::OpenProjectCommand() {
+  if (!MayDropChanges()) return;
+  Guard([&] {
+    if (const auto path = AskProjectPath()) OpenProject(*path);
+  });
+}
+
+bool Editor::OpenProject(const std::filesystem::path& path) {
+  bool opened = false;
+  Guard([&] {
+    auto project = OpenProjectFile(path, m_session.settings, m_session.dialogs);
+    if (!project) return;
+    LeaveProject();
+    m_session.project = std::move(*project);
+    ProjectReplaced();
+    opened = true;
+    PushRecentFile(m_session.recent, PathText(path), m_session.folders.IniPath());
+    m_host.RefreshUi();
+  });
+  return opened;
+}
+
+void Editor::OpenRecent(std::size_t slot) {
+  if (slot >= m_session.recent.size() || m_session.recent[slot].empty()) return;
+  if (MayDropChanges()) OpenProject(MapPath(m_session.recent[slot]));
+}
+
+bool Editor::Save() {
+  if (!HasProject()) return false;
+  if (!MaySave()) return SaveAs();
+  return Guard([&] {
+    WriteProjectTo(m_session, MapPath(m_session.project.ProjectFile));
+    m_host.RefreshUi();
+  });
+}
+
+bool Editor::SaveAs() {
+  if (!HasProject()) return false;
+  bool saved = false;
+  Guard([&] {
+    const auto path = ChooseToSave(m_session);
+    if (!path) return;
+    WriteProjectTo(m_session, *path);
+    m_session.project.ProjectFile = PathText(*path);
+    saved = true;
+    m_host.RefreshUi();
+  });
+  return saved;
+}
+
+void Editor::Append(std::string_view kind) {
+  const auto& importers = Importers();
+  const auto importer =
+      std::find_if(importers.begin(), importers.end(), [&](const Importer& i) { return i.Kind == kind; });
+  if (importer == importers.end() || importer->Append == nullptr || !HasProject()) return;
+  Guard([&] {
+    const auto path = ChooseToOpen(m_session, importer->Filter, importer->Title, importer->Folder);
+    if (!path) return;
+    LeaveProject();
+    StoreView(m_session.view, m_session.project);
+    importer->Append(*path, m_session.project, m_session.settings);
+    ProjectReplaced();
+  });
+}
+
+}  // namespace landsmith

@@ -1,0 +1,45 @@
+// What the editor asks of its window.
+#pragma once
+
+#include "editor/StatusText.h"
+#include "editor/ToolMode.h"
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace landsmith {
+
+/// What a context menu is about; empty for the general menu.
+struct PopupTarget {
+  std::string Kind;                 ///< "Line", "PtInLine", or empty
+  std::string Title;                ///< "Coast road  LINE # 3"
+  std::size_t Item = 0, Point = 0;  ///< 0-based
+  PixelOffset At;
+};
+
+class EditorHost {
+public:
+  virtual ~EditorHost() = default;
+  /// Caption, menus, tool buttons, zoom panel and selection state may have changed: the window reads them
+  /// anew.
+  virtual void RefreshUi() = 0;
+  virtual void SetStatus(const StatusPanels& panels) = 0;
+  virtual void SetCursor(CursorShape shape) = 0;
+  virtual void ShowContextMenu(const PopupTarget& target) = 0;
+  /// Opens `frmLinesP` for one line (0-based), or for all selected ones when empty.
+  virtual void ShowLineProperties(std::optional<std::size_t> line) = 0;
+  /// `frmProjectP` on its first tab; true after OK.
+  virtual bool ShowProjectProperties() = 0;
+  virtual int ToolbarHeight() const = 0;
+  virtual int StatusBarHeight() const = 0;
+  /// Starts or restarts a one-shot timer whose end calls Editor::TimerTick. False: this window keeps no
+  /// timers, and the editor then acts at once.
+  virtual bool StartTimer(TimerId, int /*milliseconds*/) { return false; }
+  virtual void StopTimer(TimerId) {}
+  /// The label beside the mouse, its top left corner at `at`; an empty text hides it.
+  virtual void ShowHoverLabel(std::string_view /*text*/, PixelPoint /*at*/) {}
+};
+
+}  // namespace landsmith

@@ -1,0 +1,153 @@
+#include "editor/Gestures.h"
+
+#include "editor/SelectKinds.h"
+#include "vector/LineJoin.h"
+
+#include <algorithm>
+
+namespace landsmith {
+
+namespace {
+
+constexpr int SettleMilliseconds = 30, RepaintMilliseconds = 20;
+constexpr float PixelsPerZoomStep = 50;
+constexpr std::int32_t BoxColor = 255;
+
+PixelBox BoxBetween(PixelPoint a, PixelPoint b) {
+  return {std::min(a.x, b.x), std::min(a.y, b.y), std::max(a.x, b.x) + 1, std::max(a.y, b.y) + 1};
+}
+
+LatLon PlaceOf(const ViewState& view, PixelPoint raw) {
+  return {view.LatTop - raw.y / view.Scale.PixelsPerDegLat,
+          view.LonLeft + raw.x / view.Scale.PixelsPerDegLon};
+}
+
+}  // namespace
+
+PanDrag::PanDrag(ModeContext& context, const PointerInput& in)
+    : m_context(context),
+      m_from(in.at),
+      m_center{context.session.view.LatDispCenter, context.session.view.LonDispCenter} {}
+
+void PanDrag::Update(const PointerInput& in) {
+  DragDisplay(m_context.session.view, m_center, m_from.x - in.at.x, m_from.y - in.at.y);
+  // A timer that runs is left to end: restarting it at each move would hold the picture still.
+  if (std::exchange(m_repaintPending, true)) return;
+  if (!m_context.host.StartTimer(TimerId::DragRedraw, RepaintMilliseconds)) Repaint();
+}
+
+void PanDrag::Repaint() {
+  if (!std::exchange(m_repaintPending, false)) return;
+  m_context.display.DisplayAll();
+}
+
+void PanDrag::Tick(TimerId timer) {
+  if (timer == TimerId::DragRedraw) Repaint();
+}
+
+void PanDrag::End(const PointerInput&) {
+  Repaint();
+}
+
+void PanDrag::Cancel() {
+  Repaint();
+}
+
+void ZoomDrag::Update(const PointerInput& in) {
+  const float down = in.at.y - m_y;
+  if (down >= PixelsPerZoomStep)
+    ZoomAboutCenter(m_context, ZoomStep::Out);
+  else if (down <= -PixelsPerZoomStep)
+    ZoomAboutCenter(m_context, ZoomStep::In);
+  else
+    return;
+  m_y = in.at.y;
+}
+
+void RubberBox::Update(const PointerInput& in) {
+  m_now = in.raw;
+  m_context.display.RedrawOverlay();
+}
+
+void RubberBox::Paint(Surface& surface) const {
+  surface.SetPen(BoxColor, 1, PenStyle::Dot);
+  surface.SetBrush(0, BrushStyle::None);
+  surface.Box(BoxBetween(m_first, m_now));
+  surface.SetPen(BoxColor);
+}
+
+void RubberBox::End(const PointerInput& in) {
+  Session& session = m_context.session;
+  const LatLon a = PlaceOf(session.view, m_first), b = PlaceOf(session.view, in.raw);
+  GeoBox box;
+  box.Add(a.lat, a.lon);
+  box.Add(b.lat, b.lon);
+  SelectInBox(session.project, session.view, box, session.tool);
+  if (session.tool.Selected.SelectionActive)
+    m_context.display.DisplayAll();
+  else
+    m_context.display.RedrawOverlay();
+  m_context.host.RefreshUi();
+}
+
+void RubberBox::Cancel() {
+  m_context.display.RedrawOverlay();
+}
+
+MoveDrag::MoveDrag(ModeContext& context, const PointerInput& in)
+    : m_context(context), m_edit(context.session, context.display, -1), m_last(in.at) {
+  context.session.tool.Dragging = true;
+  m_settling = context.host.StartTimer(TimerId::DragSettle, SettleMilliseconds);
+}
+
+void MoveDrag::Update(const PointerInput& in) {
+  Session& session = m_context.session;
+  if (m_settling || !session.tool.Selected.SelectionActive) return;
+  const double dx = in.at.x - m_last.x, dy = in.at.y - m_last.y;
+  if (dx == 0 && dy == 0) return;
+  m_last = in.at;
+  MoveSelection(m_edit.Project(), session.view, session.tool.Mode, dx, dy);
+  if (std::exchange(m_repaintPending, true)) return;
+  if (!m_context.host.StartTimer(TimerId::DragRedraw, RepaintMilliseconds)) Repaint();
+}
+
+void MoveDrag::Repaint() {
+  if (std::exchange(m_repaintPending, false)) m_context.display.RedrawOverlay();
+}
+
+void MoveDrag::Tick(TimerId timer) {
+  if (timer == TimerId::DragSettle) m_settling = false;
+  if (timer == TimerId::DragRedraw) Repaint();
+}
+
+void MoveDrag::JoinMovedLine() {
+  Session& session = m_context.session;
+  if (session.tool.Mode != ModeId::Line || session.settings.AutoLineJoin != 1 || !m_edit.Begun()) return;
+  ProjectState& project = m_edit.Project();
+  const auto moved = std::find_if(project.Lines.begin(), project.Lines.end(), [](const LineRec& line) {
+    return line.Selected || HasSelectedPoint(line);
+  });
+  if (moved == project.Lines.end()) return;
+  const auto number = static_cast<std::size_t>(moved - project.Lines.begin());
+  if (!TryAutoJoin(project, number, session.settings, session.view.Scale)) return;
+  RecountSelection(project, session.tool.Selected);
+  m_repaintPending = true;
+  session.dialogs.Beep();
+}
+
+void MoveDrag::Finish() {
+  m_context.session.tool.Dragging = false;
+  Repaint();
+}
+
+void MoveDrag::End(const PointerInput&) {
+  JoinMovedLine();
+  Finish();
+  m_context.host.RefreshUi();
+}
+
+void MoveDrag::Cancel() {
+  Finish();
+}
+
+}  // namespace landsmith

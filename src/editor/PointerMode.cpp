@@ -1,0 +1,37 @@
+#include "editor/PointerMode.h"
+
+#include "editor/Gestures.h"
+#include "editor/Modes.h"
+#include "editor/SelectKinds.h"
+
+namespace landsmith {
+
+std::unique_ptr<Gesture> PointerMode::Press(const PointerInput& in) {
+  if (in.button == MouseButton::Left) return PressLeft(in);
+  if (in.button == MouseButton::Right) m_context.menuAt = in.at;
+  return nullptr;
+}
+
+std::unique_ptr<Gesture> PointerMode::PressLeft(const PointerInput& in) {
+  Session& session = m_context.session;
+  if (!in.shift) ClearSelection(session.project, session.tool);
+  const bool hit = HitSelect(session.project, session.view, in.at, session.tool.Selected);
+  if (!hit) return StartRubberBox(m_context, in, LayerMask::All);
+  // What may move goes to the overlay, so that the drag redraws nothing else.
+  m_context.display.RebuildDisplay(session.tool.Selected.MapSelected ? LayerMask::DragWithMap
+                                                                     : LayerMask::Drag);
+  m_context.display.RedrawOverlay();
+  return std::make_unique<MoveDrag>(m_context, in);
+}
+
+void PointerMode::Hover(const PointerInput&) {
+  constexpr int labelMilliseconds = 100;
+  if (m_context.session.settings.ShowLabels == 0) return;
+  if (!m_context.host.StartTimer(TimerId::Rubber, labelMilliseconds)) ShowLabelUnderMouse(m_context);
+}
+
+void PointerMode::Tick(TimerId timer) {
+  if (timer == TimerId::Rubber) ShowLabelUnderMouse(m_context);
+}
+
+}  // namespace landsmith

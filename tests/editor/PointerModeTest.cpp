@@ -1,0 +1,235 @@
+#include "EditorRig.h"
+
+#include <gtest/gtest.h>
+
+namespace landsmith::test {
+namespace {
+
+class PointerModeTest : public testing::Test, public EditorRig {
+protected:
+  PointerModeTest() {
+    AddLine({{-100, 0}, {0, 0}, {100, 0}});
+    AddLine({{-100, 60}, {100, 60}});
+    editor.Canvas().DisplayAll();
+  }
+};
+
+TEST_F(PointerModeTest, AVertexWinsOverALineAndAClickOnNothingClears) {
+  Click({2, 3});
+  EXPECT_TRUE(Lines()[0].Points[1].Selected);
+  EXPECT_FALSE(Lines()[0].Selected);
+  Click({50, 2});
+  EXPECT_TRUE(Lines()[0].Selected);
+  EXPECT_FALSE(Lines()[0].Points[1].Selected);
+  EXPECT_EQ(Selected(), 1);
+  shift = true;
+  Click({50, 60});
+  EXPECT_EQ(Selected(), 2);
+  shift = false;
+  Click({0, 200});
+  EXPECT_EQ(Selected(), 0);
+  EXPECT_FALSE(Lines()[1].Selected);
+}
+
+TEST_F(PointerModeTest, ADragMovesTheSelectionAndOnlyItsLayersAreOnTheOverlay) {
+  Press({50, 0});
+  EXPECT_TRUE(session.view.Pending(LayerKind::Lines));
+  EXPECT_FALSE(session.view.Pending(LayerKind::Fills));
+  EXPECT_EQ(host.cursor, CursorShape::Move);
+  MoveTo({60, -20}).Release();
+  EXPECT_FLOAT_EQ(Place(0, 0).x, -90);
+  EXPECT_FLOAT_EQ(Place(0, 0).y, -20);
+  EXPECT_FLOAT_EQ(Place(1, 0).x, -100);
+  EXPECT_TRUE(session.project.Dirty);
+}
+
+TEST_F(PointerModeTest, AClickThatHasNotSettledMovesNothing) {
+  host.hasTimers = true;
+  Press({50, 0}).MoveTo({53, 2}).Release();
+  EXPECT_FLOAT_EQ(Place(0, 0).x, -100);
+  EXPECT_FALSE(session.project.Dirty);
+  Press({50, 0});
+  EXPECT_EQ(host.running.at(TimerId::DragSettle), 30);
+  MoveTo({53, 2});
+  editor.TimerTick(TimerId::DragSettle);
+  const int before = canvas.presented;
+  MoveTo({60, 0}).MoveTo({70, 0}).MoveTo({80, 0});
+  EXPECT_EQ(canvas.presented, before) << "moves are put together";
+  editor.TimerTick(TimerId::DragRedraw);
+  EXPECT_EQ(canvas.presented, before + 1);
+  EXPECT_FLOAT_EQ(Place(0, 0).x, -70);
+  Release();
+  EXPECT_TRUE(host.running.empty());
+}
+
+TEST_F(PointerModeTest, ARubberBoxTakesWhatLiesWhollyInside) {
+  Press({-150, -30}).MoveTo({150, 59});
+  const auto boxes = canvas.overlay.Of(RecordingSurface::Call::Kind::Box);
+  ASSERT_EQ(boxes.size(), 1U);
+  EXPECT_EQ(boxes[0].box, (PixelBox{250, 270, 551, 360}));
+  EXPECT_EQ(boxes[0].penStyle, PenStyle::Dot);
+  Release();
+  EXPECT_TRUE(Lines()[0].Selected);
+  EXPECT_FALSE(Lines()[1].Selected);
+  EXPECT_TRUE(canvas.overlay.Of(RecordingSurface::Call::Kind::Box).empty());
+}
+
+struct Interruption {
+  const char* name;
+  void (*interrupt)(EditorRig&);
+};
+class Interrupted : public testing::TestWithParam<Interruption>, public EditorRig {};
+TEST_P(Interrupted, DragsEndAndLaterMovesDoNothing) {
+  for (const PixelOffset from : {PixelOffset{0, 0}, PixelOffset{0, 100}}) {  // a move, a rubber box
+    AddLine({{-100, 0}, {100, 0}});
+    editor.Canvas().DisplayAll();
+    Press(from).MoveTo({0, 120});
+    ASSERT_TRUE(editor.GestureAlive());
+    GetParam().interrupt(*this);
+    EXPECT_FALSE(editor.GestureAlive());
+    EXPECT_FALSE(session.tool.Dragging);
+    const auto lines = session.project.Lines;
+    MoveTo({200, 200}).Release();
+    EXPECT_EQ(Lines(), lines);
+    session.project.ProjectOpen = true;
+    session.project.Lines.clear();
+    editor.ChooseMode(ModeId::Pointer);
+  }
+}
+INSTANTIATE_TEST_SUITE_P(
+    By, Interrupted,
+    testing::Values(Interruption{"mode_change", [](EditorRig& rig) { rig.editor.ChooseMode(ModeId::Zoom); }},
+                    Interruption{"right_click", [](EditorRig& rig) { rig.Press({0, 0}, MouseButton::Right); }},
+                    Interruption{"focus_loss", [](EditorRig& rig) { rig.editor.FocusLost(); }},
+                    Interruption{"select_all", [](EditorRig& rig) { rig.editor.SelectAll(); }},
+                    Interruption{"new_project",
+                                 [](EditorRig& rig) {
+                                   rig.dialogs.answers = {true};
+                                   rig.editor.NewProject();
+                                 }}),
+    [](const auto& row) { return row.param.name; });
+
+TEST_F(PointerModeTest, DeletingAsksOnceAndCountsItems) {
+  Click({0, 0});
+  shift = true;
+  Click({50, 60});
+  shift = false;
+  Key(46);
+  EXPECT_EQ(dialogs.questions, std::vector<std::string>{"Delete 2 item(s) ?"});
+  EXPECT_EQ(Lines().size(), 2U) << "No is the default";
+  dialogs.answers = {true};
+  Key(46);
+  ASSERT_EQ(Lines().size(), 1U);
+  EXPECT_EQ(Lines()[0].Points.size(), 2U);
+  EXPECT_EQ(Selected(), 0);
+  Click({50, 0});
+  session.settings.AskDelete = false;
+  Key(46);
+  EXPECT_TRUE(Lines().empty());
+  EXPECT_EQ(dialogs.questions.size(), 2U);
+}
+
+TEST_F(PointerModeTest, TheRightButtonNamesWhatLiesUnderIt) {
+  session.project.Lines[1].Name = "Shore road";
+  Click({0, 0}, MouseButton::Right);
+  Click({50, 60}, MouseButton::Right);
+  Click({0, 200}, MouseButton::Right);
+  ASSERT_EQ(host.menus.size(), 3U);
+  EXPECT_EQ(host.menus[0].Kind, "PtInLine");
+  EXPECT_EQ(host.menus[0].Title, "POINT # 2 from LINE # 1");
+  EXPECT_EQ(host.menus[1].Title, "Shore road  LINE # 2");
+  EXPECT_EQ(host.menus[2].Kind, "");
+  EXPECT_EQ(host.menus[2].Title, "COAST");
+
+  dialogs.answers = {true, true};
+  editor.DeleteTarget(host.menus[0]);
+  EXPECT_EQ(Lines()[0].Points.size(), 2U);
+  editor.DeleteTarget(host.menus[1]);
+  EXPECT_EQ(Lines().size(), 1U);
+  EXPECT_EQ(dialogs.questions,
+            (std::vector<std::string>{"Delete this Point from this Line ?", "Delete this Line ?"}));
+  editor.DeleteTarget(host.menus[1]);
+  editor.ShowTargetProperties(host.menus[1]);
+  EXPECT_EQ(dialogs.questions.size(), 2U) << "a target that is gone asks nothing";
+  EXPECT_TRUE(host.lineForms.empty());
+}
+
+TEST_F(PointerModeTest, RTurnsTheNextLeftClickIntoARightOne) {
+  editor.KeyUp({'R', false, false, false});
+  Click({50, 60}).Click({50, 60});
+  EXPECT_EQ(host.menus.size(), 1U);
+  EXPECT_TRUE(Lines()[1].Selected);
+}
+
+TEST_F(PointerModeTest, TheMiddleButtonPansInEveryMode) {
+  editor.ChooseMode(ModeId::Line);
+  Click({-100, -50});
+  Press({0, 0}, MouseButton::Middle);
+  MoveTo({30, 40}).Release();
+  EXPECT_NEAR(session.view.LonDispCenter, At(-30, 0).lon, 1e-12);
+  EXPECT_NEAR(session.view.LatDispCenter, At(0, -40).lat, 1e-12);
+  Click({0, 0});
+  EXPECT_EQ(Lines().size(), 3U) << "the line under way goes on";
+}
+
+TEST_F(PointerModeTest, WheelStepsNeedAWholeNotchAndNoKey) {
+  const auto wheel = [&](int delta) { editor.Wheel(delta, Pointer({100, 0}, MouseButton::None)); };
+  wheel(120);
+  EXPECT_EQ(session.view.Zoom, 2);
+  wheel(-30);
+  wheel(-60);
+  EXPECT_EQ(session.view.Zoom, 2);
+  wheel(-30);
+  EXPECT_EQ(session.view.Zoom, 1);
+  shift = true;
+  wheel(120);
+  EXPECT_EQ(session.view.Zoom, 1);
+  shift = false;
+  session.settings.ZoomAtCursor = true;
+  const LatLon under = ToLatLon(session.view, {100, 0});
+  wheel(240);
+  EXPECT_EQ(session.view.Zoom, 2);
+  EXPECT_NEAR(ToLatLon(session.view, {100, 0}).lon, under.lon, 1e-12);
+}
+
+TEST_F(PointerModeTest, ZoomToolAndZKey) {
+  editor.ChooseMode(ModeId::Zoom);
+  const LatLon place = At(100, 50);
+  Click({100, 50});
+  EXPECT_EQ(session.view.Zoom, 2);
+  EXPECT_NEAR(session.view.LonDispCenter, place.lon, 1e-12);
+  Click({0, 0}, MouseButton::Right);
+  EXPECT_EQ(session.view.Zoom, 1);
+  editor.ChooseMode(ModeId::Pointer);
+  Key('Z').Press({0, 0}).MoveTo({0, 49});
+  EXPECT_EQ(session.view.Zoom, 1);
+  MoveTo({0, 50}).MoveTo({0, 60}).MoveTo({0, 0});
+  EXPECT_EQ(session.view.Zoom, 1) << "one step out, one step back in";
+}
+
+TEST_F(PointerModeTest, HidingAKindClearsItsSelection) {
+  editor.SelectAll();
+  EXPECT_EQ(Selected(), 2);
+  editor.ToggleShown(LayerKind::Lines);
+  EXPECT_EQ(Selected(), 0);
+  Click({50, 0});
+  EXPECT_EQ(Selected(), 0) << "what is hidden is not hit";
+  editor.ToggleShown(LayerKind::Lines);
+  EXPECT_TRUE(session.view.Shows(LayerKind::Lines));
+}
+
+TEST_F(PointerModeTest, SelectAllNeverTakesMapsAndToggles) {
+  session.project.Maps.resize(1);
+  session.project.Fills.resize(2);
+  session.project.Lands.Set(5, 6, 3);
+  editor.SelectAll();
+  EXPECT_FALSE(session.project.Maps[0].Selected);
+  EXPECT_EQ(session.project.Lands.At(5, 6), 131);
+  EXPECT_EQ(Selected(), 5);
+  editor.SelectAll();
+  EXPECT_EQ(Selected(), 0);
+  EXPECT_EQ(session.project.Lands.At(5, 6), 3);
+}
+
+}  // namespace
+}  // namespace landsmith::test
