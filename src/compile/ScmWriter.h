@@ -2,6 +2,7 @@
 // what a number is, not how it prints.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -11,6 +12,8 @@ namespace landsmith {
 
 class ScmWriter {
 public:
+  /// Makes room for a text of about so many bytes, so that a long one is not copied as it grows.
+  void Reserve(std::size_t bytes) { m_text.reserve(bytes); }
   ScmWriter& Text(std::string_view text);  ///< UTF-8, as it stands
   ScmWriter& Integer(std::int64_t value);  ///< plain decimal, no padding
   /// 0 or above, with at least two digits: "07", "12", "123".

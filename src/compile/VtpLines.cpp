@@ -11,14 +11,11 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <iterator>
 #include <unordered_map>
 #include <utility>
 
 namespace landsmith {
 namespace {
-
-constexpr const char* Doing = "compiling the VTP lines";
 
 /// The settings count 1/8192 of a Cell.
 constexpr double ShiftUnitLat = 4.291534423828125e-05, ShiftUnitLon = 5.7220458984375e-05;
@@ -39,8 +36,7 @@ private:
 };
 
 struct CollectedLine {
-  const LineRec* line = nullptr;
-  std::string place;  ///< for messages: its number and name
+  std::size_t index = 0;  ///< in the project
   std::int32_t layer = 0;
   std::int32_t texId = 0;
 };
@@ -49,8 +45,10 @@ bool IsWanted(const LineRec& line) {
   return line.Selected && TypeHead(line.Type) == "VTP";
 }
 
-std::string PlaceOf(const LineRec& line, std::size_t index) {
-  return "line " + std::to_string(index + 1) + " \"" + line.Name + "\"";
+/// A failure that names the line it is about.
+RuntimeError FailureIn(const ProjectState& project, std::size_t index, const std::string& found) {
+  const std::string place = "line " + std::to_string(index + 1) + " \"" + project.Lines[index].Name + "\"";
+  return RuntimeError::At("compiling the VTP lines", "", place, found);
 }
 
 std::vector<CollectedLine> CollectVtpLines(const ProjectState& project, TextureNames& textures) {
@@ -62,9 +60,8 @@ std::vector<CollectedLine> CollectVtpLines(const ProjectState& project, TextureN
     const auto& type = std::get<VtpLine>(decoded);
     const auto layer = ParseInt16(type.Layer);
     if (!layer)
-      throw RuntimeError::At(Doing, "", PlaceOf(line, i),
-                             "the layer \"" + type.Layer + "\" is no whole number from -32768 to 32767");
-    collected.push_back({&line, PlaceOf(line, i), *layer, textures.Add(type.Texture)});
+      throw FailureIn(project, i, "the layer \"" + type.Layer + "\" is no whole number from -32768 to 32767");
+    collected.push_back({i, *layer, textures.Add(type.Texture)});
   }
   return collected;
 }
@@ -83,16 +80,19 @@ std::vector<LinePoint> Shifted(std::vector<LinePoint> points, const AppSettings&
   return points;
 }
 
-/// Ends and packing of one line's runs; a width that cannot be written is told with the line it is in.
-void ShapeRuns(std::vector<LineRun>& runs, const std::string& place) {
-  try {
-    for (LineRun& run : runs) {
-      AddLineEnds(run);
-      PackRunPoints(run);
-    }
-  } catch (const RuntimeError& failure) {
-    throw RuntimeError::At(Doing, "", place, failure.what());
+/// The finished runs of one line, which adds to the bounds; none when all of it falls on one Point.
+std::vector<LineRun> FinishedRuns(const LineRec& line, const CollectedLine& collected,
+                                  const AppSettings& settings, GeoBox& bounds) {
+  const auto points = SnapLinePoints(Shifted(line.Points, settings));
+  if (points.size() < 2) return {};
+  for (const LinePoint& point : points)
+    bounds.Add(point.Lat, point.Lon);
+  auto runs = ClipLineToCells(points, line.Name, collected.texId, collected.layer);
+  for (LineRun& run : runs) {
+    AddLineEnds(run);
+    PackRunPoints(run);
   }
+  return runs;
 }
 
 }  // namespace
@@ -102,14 +102,12 @@ std::optional<std::string> VtpLineSource(const ProjectState& project, const AppS
   std::vector<LineRun> runs;
   GeoBox bounds;
   for (const CollectedLine& collected : CollectVtpLines(project, textures)) {
-    const LineRec& line = *collected.line;
-    const auto points = SnapLinePoints(Shifted(line.Points, settings));
-    if (points.size() < 2) continue;
-    for (const LinePoint& point : points)
-      bounds.Add(point.Lat, point.Lon);
-    auto lineRuns = ClipLineToCells(points, line.Name, collected.texId, collected.layer);
-    ShapeRuns(lineRuns, collected.place);
-    std::move(lineRuns.begin(), lineRuns.end(), std::back_inserter(runs));
+    try {
+      for (LineRun& run : FinishedRuns(project.Lines[collected.index], collected, settings, bounds))
+        runs.push_back(std::move(run));
+    } catch (const RuntimeError& failure) {
+      throw FailureIn(project, collected.index, failure.what());
+    }
   }
   if (runs.empty()) return std::nullopt;
   return VtpText(GroupRuns(std::move(runs)), textures.Names(), {bounds, settings.VTPReplace});

@@ -60,11 +60,26 @@ void WriteTextureList(ScmWriter& out, const std::vector<std::string>& textures) 
   out.Line("        )");
 }
 
+/// Somewhat above what the text will take.
+std::size_t ExpectedSize(const std::vector<VtpCell>& cells) {
+  constexpr std::size_t pointLine = 42, polyLines = 64, groupLines = 160;
+  std::size_t size = 1000;
+  for (const VtpCell& cell : cells)
+    for (const VtpLayer& layer : cell.Layers)
+      for (const VtpTexture& texture : layer.Textures) {
+        size += groupLines;
+        for (const VtpPoly& poly : texture.Polys)
+          size += polyLines + poly.Name.size() + poly.Points.size() * pointLine;
+      }
+  return size;
+}
+
 }  // namespace
 
 std::string VtpText(const std::vector<VtpCell>& cells, const std::vector<std::string>& textures,
                     const VtpTextOptions& options) {
   ScmWriter out;
+  out.Reserve(ExpectedSize(cells));
   WriteHeader(out, options.Bounds);
   std::int64_t number = 0;
   for (const VtpCell& cell : cells)

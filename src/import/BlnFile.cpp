@@ -55,7 +55,12 @@ private:
     throw RuntimeError::At("reading the Surfer file", m_file, "line " + std::to_string(m_next), found);
   }
 
-  static std::string Quoted(std::string_view bytes) { return "\"" + FromWindows1252(bytes) + "\""; }
+  static std::string Quoted(std::string_view bytes) {
+    std::string text = "\"";
+    text += FromWindows1252(bytes);
+    text += '"';
+    return text;
+  }
 
   std::size_t ReadHeader(BlnItem& item) {
     std::string_view rest = m_lines[m_next++];

@@ -60,7 +60,7 @@ private:
     constexpr std::size_t digits = 9;  // behind "[Texture."
     const std::string_view rest = bytes.substr(std::min(digits, bytes.size()));
     const std::optional<std::int16_t> id = ParseInt16(rest.substr(0, rest.find(']')));
-    if (!id) Fail("\"" + FromWindows1252(bytes) + "\" has no number");
+    if (!id) Fail(FromWindows1252(bytes) + " has no number from -32768 to 32767");
     return *id;
   }
 
@@ -70,7 +70,7 @@ private:
     for (std::int32_t* part : {&item.R, &item.G, &item.B}) {
       const std::size_t end = std::min(rest.find(' '), rest.size());
       const std::optional<std::uint8_t> value = ParseByte(rest.substr(0, end));
-      if (!value) Fail("\"" + FromWindows1252(bytes) + "\" is not three numbers from 0 to 255");
+      if (!value) Fail(FromWindows1252(bytes) + " has no three numbers from 0 to 255");
       *part = *value;
       rest = Trim(rest.substr(end));
     }

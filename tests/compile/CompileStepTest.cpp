@@ -33,7 +33,7 @@ protected:
       return 0;
     };
   }
-  void OldOutput(const std::string& file) {
+  void OldOutput(const std::string& file) const {
     std::filesystem::create_directories(rig.folders.Work());
     WriteWholeFile(rig.folders.Work() / file, "old");
   }

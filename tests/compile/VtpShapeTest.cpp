@@ -98,9 +98,9 @@ TEST(PackRunPoints, StepsReach1022EachWay) {
 }
 
 TEST(PackRunPoints, SevenStepsFillAGroup) {
-  std::vector<RunPoint> points;
+  std::vector<RunPoint> points(9);
   for (std::int32_t i = 0; i < 9; ++i)
-    points.push_back({100 * i, 0, 0});
+    points[static_cast<std::size_t>(i)].X = 100 * i;
   LineRun nine = RunOf(points);
   PackRunPoints(nine);
   EXPECT_EQ(nine.Points[0].Kind, 7);
