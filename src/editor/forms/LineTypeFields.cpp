@@ -8,6 +8,8 @@
 #include "vector/LineType.h"
 #include "vector/TextureCatalog.h"
 
+#include <QButtonGroup>
+
 namespace landsmith {
 
 namespace {
@@ -20,7 +22,13 @@ std::int32_t ColorOf(const TextureItem& item) {
 
 LineTypeFields::LineTypeFields(Session& session, Ui::frmLinesP& ui, QWidget* dialog)
     : QObject(dialog), m_session(session), m_ui(ui), m_dialog(dialog) {
+  // Option buttons of one box take those of a box inside it for their own, unless they have a group.
+  m_options = new QButtonGroup(this);
+  auto* textures = new QButtonGroup(this);
+  textures->addButton(ui.optAptTex);
+  textures->addButton(ui.optNameTex);
   for (QRadioButton* option : {ui.optNone, ui.optObjects, ui.optPoints, ui.optVTP, ui.optOther}) {
+    m_options->addButton(option);
     connect(option, &QRadioButton::toggled, this, &LineTypeFields::EnableFields);
     connect(option, &QRadioButton::clicked, this, [this] { m_touched = true; });
   }
@@ -40,9 +48,9 @@ void LineTypeFields::Show(const std::optional<std::string>& type, std::int32_t c
   m_ui.lbColor->SetColor(color);
   ShowVtp(m_stored, color);
   if (!type) {
-    m_ui.optNone->setAutoExclusive(false);
-    m_ui.optNone->setChecked(false);
-    m_ui.optNone->setAutoExclusive(true);
+    m_options->setExclusive(false);
+    if (QAbstractButton* option = m_options->checkedButton()) option->setChecked(false);
+    m_options->setExclusive(true);
   } else if (m_stored.empty()) {
     m_ui.optNone->setChecked(true);
   } else if (head == "VTP") {

@@ -9,6 +9,8 @@
 #include <optional>
 #include <string>
 
+class QButtonGroup;
+
 namespace landsmith {
 
 namespace Ui {
@@ -43,6 +45,7 @@ private:
   Session& m_session;
   Ui::frmLinesP& m_ui;
   QWidget* m_dialog;
+  QButtonGroup* m_options;
   std::string m_stored;         ///< the type that was shown
   std::string m_assembledText;  ///< texture of the pre-assembled choice
   std::optional<Choice> m_shown;

@@ -5,8 +5,6 @@
 #include "platform/Paths.h"
 #include "ui_frmNamesT.h"
 
-#include <QButtonGroup>
-
 #include <algorithm>
 #include <array>
 #include <system_error>
