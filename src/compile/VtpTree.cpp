@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <functional>
 #include <tuple>
 #include <unordered_map>
 #include <utility>
@@ -10,47 +9,61 @@
 namespace landsmith {
 namespace {
 
-struct GroupKey {
-  std::int32_t CellX = 0, CellY = 0, Layer = 0, TexId = 0;
-  bool operator==(const GroupKey&) const = default;
-};
-
-struct GroupKeyHash {
-  std::size_t operator()(const GroupKey& key) const {
-    std::uint64_t mixed = 0;
-    for (const std::int32_t part : {key.CellX, key.CellY, key.Layer, key.TexId})
-      mixed = (mixed ^ static_cast<std::uint32_t>(part)) * 0x9E3779B97F4A7C15U;
-    return static_cast<std::size_t>(mixed ^ (mixed >> 32U));
+/// Where the layers and textures of one Cell stand. The Cells are filled one after the other, so that what is
+/// looked up stays small however many Cells there are.
+class CellFiller {
+public:
+  void Add(VtpCell& cell, LineRun&& run) {
+    const auto layer = static_cast<std::uint32_t>(run.Layer);
+    VtpLayer& inLayer = FindOrAppend(cell.Layers, m_layers, layer, VtpLayer{run.Layer, {}});
+    const std::uint64_t texture = (std::uint64_t{layer} << 32U) | static_cast<std::uint32_t>(run.TexId);
+    VtpTexture& inTexture = FindOrAppend(inLayer.Textures, m_textures, texture, VtpTexture{run.TexId, {}});
+    inTexture.Polys.push_back({std::move(run.Name), std::move(run.Points)});
   }
+
+private:
+  using PlaceOf = std::unordered_map<std::uint64_t, std::size_t>;
+
+  template <class Element>
+  static Element& FindOrAppend(std::vector<Element>& list, PlaceOf& places, std::uint64_t key,
+                               Element fresh) {
+    const auto [entry, isNew] = places.try_emplace(key, list.size());
+    if (isNew) list.push_back(std::move(fresh));
+    return list[entry->second];
+  }
+
+  PlaceOf m_layers, m_textures;
 };
 
-using PlaceOf = std::unordered_map<GroupKey, std::size_t, GroupKeyHash>;
+struct RunPlace {
+  std::int32_t cellY = 0, cellX = 0;
+  std::size_t run = 0;
+};
 
-/// The element of `list` that `key` stands for; a key not seen before appends `fresh`.
-template <class Element>
-Element& FindOrAppend(std::vector<Element>& list, PlaceOf& places, const GroupKey& key, Element fresh) {
-  const auto [entry, isNew] = places.try_emplace(key, list.size());
-  if (isNew) list.push_back(std::move(fresh));
-  return list[entry->second];
+/// By Cell row, then column, then as they come.
+std::vector<RunPlace> CellOrder(const std::vector<LineRun>& runs) {
+  std::vector<RunPlace> order;
+  order.reserve(runs.size());
+  for (std::size_t i = 0; i < runs.size(); ++i)
+    order.push_back({runs[i].CellY, runs[i].CellX, i});
+  std::sort(order.begin(), order.end(), [](const RunPlace& a, const RunPlace& b) {
+    return std::tie(a.cellY, a.cellX, a.run) < std::tie(b.cellY, b.cellX, b.run);
+  });
+  return order;
 }
 
 }  // namespace
 
 std::vector<VtpCell> GroupRuns(std::vector<LineRun> runs) {
   std::vector<VtpCell> cells;
-  PlaceOf cellPlaces, layerPlaces, texturePlaces;
-  for (LineRun& run : runs) {
-    GroupKey key{run.CellX, run.CellY, 0, 0};
-    VtpCell& cell = FindOrAppend(cells, cellPlaces, key, VtpCell{run.CellX, run.CellY, {}});
-    key.Layer = run.Layer;
-    VtpLayer& layer = FindOrAppend(cell.Layers, layerPlaces, key, VtpLayer{run.Layer, {}});
-    key.TexId = run.TexId;
-    VtpTexture& texture = FindOrAppend(layer.Textures, texturePlaces, key, VtpTexture{run.TexId, {}});
-    texture.Polys.push_back({std::move(run.Name), std::move(run.Points)});
+  CellFiller filler;
+  for (const RunPlace& place : CellOrder(runs)) {
+    if (cells.empty() || cells.back().CellX != place.cellX || cells.back().CellY != place.cellY) {
+      cells.push_back({place.cellX, place.cellY, {}});
+      filler = {};
+    }
+    filler.Add(cells.back(), std::move(runs[place.run]));
   }
-  std::sort(cells.begin(), cells.end(), [](const VtpCell& a, const VtpCell& b) {
-    return std::tie(a.CellY, a.CellX) < std::tie(b.CellY, b.CellX);
-  });
   return cells;
 }
 
