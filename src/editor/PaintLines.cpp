@@ -35,13 +35,13 @@ public:
   LinePainter(Surface& surface, const PaintInput& in) : m_surface(surface), m_in(in) {}
 
   /// `runs`: those of one line that meet the view. True when a segment was drawn.
-  bool Paint(const LineRec& line, std::span<const LinePiece> runs) {
+  bool Paint(const LineRec& line, std::span<const VertexRun> runs) {
     const std::int32_t color = line.Selected ? m_in.settings.LnColorSel : line.Color;
     m_surface.SetPen(color);
     m_surface.SetBrush(color);
     m_joined = m_drawn = false;
     std::uint32_t reached = 0;
-    for (const LinePiece& run : runs) {
+    for (const VertexRun& run : runs) {
       if (run.first != reached) m_joined = false;
       PaintRun(line, run);
       reached = run.last;
@@ -49,9 +49,9 @@ public:
     return m_drawn;
   }
 
-  void PaintMarks(const LineRec& line, std::span<const LinePiece> runs, bool anySelected) {
+  void PaintMarks(const LineRec& line, std::span<const VertexRun> runs, bool anySelected) {
     std::size_t next = 0;
-    for (const LinePiece& run : runs) {
+    for (const VertexRun& run : runs) {
       for (std::size_t i = std::max<std::size_t>(next, run.first); i <= run.last; ++i)
         PaintMark(line, i, anySelected);
       next = run.last + std::size_t{1};
@@ -69,7 +69,7 @@ private:
            SegmentCrossesView(m_in.view, a.Lon, a.Lat, b.Lon, b.Lat);
   }
 
-  void PaintRun(const LineRec& line, const LinePiece& run) {
+  void PaintRun(const LineRec& line, const VertexRun& run) {
     for (std::size_t i = run.first + std::size_t{1}; i <= run.last; ++i) {
       const LinePoint &from = line.Points[i - 1], &to = line.Points[i];
       if (!IsVisible(from, to)) {
@@ -143,7 +143,7 @@ void DisplayLines(Surface& surface, const PaintInput& in, std::vector<std::uint8
   std::optional<GeometryIndex> own;
   const GeometryIndex& index = in.index != nullptr ? *in.index : own.emplace(in.project);
 
-  std::vector<LinePiece> runs;
+  std::vector<VertexRun> runs;
   for (const std::uint32_t number : index.LineRunBoxes().Meeting(in.view.VisibleBox()))
     runs.push_back(index.LineRuns()[number]);
 
