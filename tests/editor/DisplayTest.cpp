@@ -1,8 +1,9 @@
 #include "EditorRig.h"
-
 #include "core/Color.h"
 
 #include <gtest/gtest.h>
+
+#include <cmath>
 
 namespace landsmith::test {
 namespace {
