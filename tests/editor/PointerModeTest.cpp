@@ -99,7 +99,10 @@ TEST_P(Interrupted, DragsEndAndLaterMovesDoNothing) {
 INSTANTIATE_TEST_SUITE_P(
     By, Interrupted,
     testing::Values(Interruption{"mode_change", [](EditorRig& rig) { rig.editor.ChooseMode(ModeId::Zoom); }},
-                    Interruption{"right_click", [](EditorRig& rig) { rig.Press({0, 0}, MouseButton::Right); }},
+                    Interruption{"right_click",
+                                 [](EditorRig& rig) {
+                                   rig.Press({0, 0}, MouseButton::Right);
+                                 }},
                     Interruption{"focus_loss", [](EditorRig& rig) { rig.editor.FocusLost(); }},
                     Interruption{"select_all", [](EditorRig& rig) { rig.editor.SelectAll(); }},
                     Interruption{"new_project",

@@ -1,6 +1,5 @@
-#include "editor/ViewState.h"
-
 #include "core/Numbers.h"
+#include "editor/ViewState.h"
 
 #include <gtest/gtest.h>
 
@@ -62,14 +61,14 @@ TEST_P(Crossing, IsFoundWithoutAnEndInView) {
   const LatLon a = ToLatLon(view, GetParam().from), b = ToLatLon(view, GetParam().to);
   EXPECT_EQ(SegmentCrossesView(view, a.lon, a.lat, b.lon, b.lat), GetParam().crosses);
 }
-INSTANTIATE_TEST_SUITE_P(
-    Rows, Crossing,
-    testing::Values(CrossRow{"across", {-500, 0}, {500, 10}, true}, CrossRow{"down", {0, -400}, {10, 400}, true},
-                    CrossRow{"past_the_corner", {-500, -200}, {-300, -500}, false},
-                    CrossRow{"through_the_corner", {-500, -150}, {-150, -500}, true},
-                    CrossRow{"beyond_one_side", {-500, -900}, {-450, 900}, false},
-                    CrossRow{"no_length_outside", {500, 0}, {500, 0}, false}),
-    [](const auto& row) { return row.param.name; });
+INSTANTIATE_TEST_SUITE_P(Rows, Crossing,
+                         testing::Values(CrossRow{"across", {-500, 0}, {500, 10}, true},
+                                         CrossRow{"down", {0, -400}, {10, 400}, true},
+                                         CrossRow{"past_the_corner", {-500, -200}, {-300, -500}, false},
+                                         CrossRow{"through_the_corner", {-500, -150}, {-150, -500}, true},
+                                         CrossRow{"beyond_one_side", {-500, -900}, {-450, 900}, false},
+                                         CrossRow{"no_length_outside", {500, 0}, {500, 0}, false}),
+                         [](const auto& row) { return row.param.name; });
 
 // w = 800 / 2.2, lower = (300 - 20) / 1.2, upper = (30 - 300) / 1.2
 TEST(ViewState, CenterBoxLeavesRoomForTheBars) {
@@ -85,7 +84,8 @@ TEST(ViewState, CenterBoxLeavesRoomForTheBars) {
 }
 
 TEST(ViewState, BrushSizeFollowsTheGridLevel) {
-  const std::pair<int, int> rows[] = {{0, 1}, {5, 32}, {8, 32}, {9, 16}, {10, 8}, {11, 4}, {12, 2}, {13, 1}, {19, 1}};
+  const std::pair<int, int> rows[] = {{0, 1},  {5, 32}, {8, 32}, {9, 16}, {10, 8},
+                                      {11, 4}, {12, 2}, {13, 1}, {19, 1}};
   for (const auto& [lod, size] : rows)
     EXPECT_EQ(FillSizeOfGrid(lod), size) << lod;
 }
