@@ -14,13 +14,6 @@ static_assert(std::endian::native == std::endian::little, "files are little-endi
 namespace {
 
 template <class Value>
-Value ValueAt(const char* bytes) {
-  Value value{};
-  std::memcpy(&value, bytes, sizeof value);
-  return value;
-}
-
-template <class Value>
 void AppendValue(std::string& bytes, Value value) {
   char raw[sizeof value];
   std::memcpy(raw, &value, sizeof value);
@@ -32,44 +25,9 @@ void AppendValue(std::string& bytes, Value value) {
 ByteReader::ByteReader(std::string_view bytes, std::string doing, std::string file)
     : m_bytes(bytes), m_doing(std::move(doing)), m_file(std::move(file)) {}
 
-std::uint8_t ByteReader::U8() {
-  return ValueAt<std::uint8_t>(Bytes(1).data());
-}
-
-std::uint16_t ByteReader::U16() {
-  return ValueAt<std::uint16_t>(Bytes(2).data());
-}
-
-std::int16_t ByteReader::I16() {
-  return ValueAt<std::int16_t>(Bytes(2).data());
-}
-
-std::int32_t ByteReader::I32() {
-  return ValueAt<std::int32_t>(Bytes(4).data());
-}
-
-std::uint32_t ByteReader::U32() {
-  return ValueAt<std::uint32_t>(Bytes(4).data());
-}
-
-float ByteReader::F32() {
-  return ValueAt<float>(Bytes(4).data());
-}
-
-double ByteReader::F64() {
-  return ValueAt<double>(Bytes(8).data());
-}
-
 std::string ByteReader::Str16() {
   const std::uint16_t length = U16();
   return FromWindows1252(Bytes(length));
-}
-
-std::string_view ByteReader::Bytes(std::size_t count) {
-  Need(count);
-  const std::string_view result = m_bytes.substr(m_position, count);
-  m_position += count;
-  return result;
 }
 
 void ByteReader::Seek(std::size_t position) {
@@ -89,8 +47,8 @@ void ByteReader::Fail(const std::string& found) const {
   throw RuntimeError::At(m_doing, m_file, "offset " + std::to_string(m_position), found);
 }
 
-void ByteReader::Need(std::size_t count) const {
-  if (count > Left()) Fail(std::to_string(count) + " bytes needed, " + std::to_string(Left()) + " left");
+void ByteReader::FailShort(std::size_t count) const {
+  Fail(std::to_string(count) + " bytes needed, " + std::to_string(Left()) + " left");
 }
 
 void ByteWriter::U8(std::uint8_t value) {

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -19,16 +20,20 @@ public:
   std::size_t Left() const { return m_bytes.size() - m_position; }
 
   /// Each throws RuntimeError with the offset when fewer bytes are left than the value needs.
-  std::uint8_t U8();
-  std::uint16_t U16();
-  std::int16_t I16();
-  std::int32_t I32();
-  std::uint32_t U32();
-  float F32();
-  double F64();
+  std::uint8_t U8() { return Value<std::uint8_t>(); }
+  std::uint16_t U16() { return Value<std::uint16_t>(); }
+  std::int16_t I16() { return Value<std::int16_t>(); }
+  std::int32_t I32() { return Value<std::int32_t>(); }
+  std::uint32_t U32() { return Value<std::uint32_t>(); }
+  float F32() { return Value<float>(); }
+  double F64() { return Value<double>(); }
   /// A 16-bit length and that many bytes, Windows-1252, returned as UTF-8.
   std::string Str16();
-  std::string_view Bytes(std::size_t count);
+  std::string_view Bytes(std::size_t count) {
+    if (count > Left()) FailShort(count);
+    m_position += count;
+    return {m_bytes.data() + m_position - count, count};
+  }
   void Seek(std::size_t position);
 
   /// A count of things that take at least `leastSize` bytes each; one below 0 or without room in what is
@@ -39,7 +44,15 @@ public:
   [[noreturn]] void Fail(const std::string& found) const;
 
 private:
-  void Need(std::size_t count) const;
+  // In the header, since projects are made of a great many small fields.
+  template <class Number>
+  Number Value() {
+    Number value{};
+    std::memcpy(&value, Bytes(sizeof value).data(), sizeof value);
+    return value;
+  }
+  [[noreturn]] void FailShort(std::size_t count) const;
+
   std::string_view m_bytes;
   std::size_t m_position = 0;
   std::string m_doing;

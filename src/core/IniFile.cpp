@@ -24,9 +24,10 @@ bool BeginsIgnoringCase(std::string_view line, std::string_view start) {
   return EqualsIgnoringCase(line.substr(0, start.size()), start);
 }
 
-/// Line feeds that stand alone, as other editors write them, get their carriage return.
+/// Line feeds and carriage returns that stand alone, as other editors write them, become full line ends.
 std::string WithFullLineEnds(std::string text) {
-  return ReplaceAll(ReplaceAll(std::move(text), LineEnd, "\n"), "\n", LineEnd);
+  text = ReplaceAll(std::move(text), LineEnd, "\n");
+  return ReplaceAll(ReplaceAll(std::move(text), "\r", "\n"), "\n", LineEnd);
 }
 
 /// At most one empty line in a row, nothing but text at both ends, and one line end behind all.

@@ -159,13 +159,14 @@ std::string ReplaceAll(std::string text, std::string_view from, std::string_view
 
 std::vector<std::string_view> SplitLines(std::string_view text) {
   std::vector<std::string_view> lines;
-  while (!text.empty()) {
-    const std::size_t end = text.find('\n');
-    std::string_view line = text.substr(0, end);
-    if (end != std::string_view::npos && line.ends_with('\r')) line.remove_suffix(1);
-    lines.push_back(line);
-    if (end == std::string_view::npos) break;
-    text.remove_prefix(end + 1);
+  std::size_t start = 0;
+  std::size_t feed = 0;  // the next line feed at or behind `start`, looked for once
+  while (start < text.size()) {
+    if (feed <= start) feed = std::min(text.find('\n', start), text.size());
+    const std::size_t end = start + std::min(text.substr(start, feed - start).find('\r'), feed - start);
+    lines.push_back(text.substr(start, end - start));
+    const bool both = end + 1 == feed && feed < text.size();
+    start = end + (both ? 2 : 1);
   }
   return lines;
 }

@@ -18,7 +18,7 @@ std::string ToLower(std::string_view text);    ///< the 26 letters alone
 std::string ToUpper(std::string_view text);    ///< also the letters of Windows-1252 beyond them, in UTF-8
 bool EqualsIgnoringCase(std::string_view a, std::string_view b);
 std::string ReplaceAll(std::string text, std::string_view from, std::string_view to);
-/// Lines without their ends, CR LF or LF; no line behind a final line end.
+/// Lines without their ends, CR LF, LF or CR; no line behind a final line end.
 std::vector<std::string_view> SplitLines(std::string_view text);
 
 }  // namespace landsmith

@@ -54,7 +54,7 @@ fs::path MapPath(std::string_view stored) {
 #else
   std::string slashed(stored);
   std::replace(slashed.begin(), slashed.end(), '\\', '/');
-  const fs::path whole = PathFromText(slashed);
+  fs::path whole = PathFromText(slashed);
   if (NamesForeignDrive(stored) || Exists(whole)) return whole;
   fs::path found;
   bool missing = false;
@@ -134,7 +134,7 @@ void WriteWholeFile(const fs::path& path, std::string_view content) {
     throw RuntimeError::At("writing a file", PathText(path), "", "the file is read-only");
 
   fs::path beside = target;
-  beside += ".new";
+  beside += ".landsmith-new";
   try {
     WriteTo(beside, content, path);
     if (fs::exists(before)) fs::permissions(beside, before.permissions(), error);

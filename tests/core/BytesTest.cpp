@@ -54,10 +54,8 @@ TEST(ByteReader, NamesThePlaceThatRunsShort) {
 }
 
 TEST(ByteReader, RefusesATextLongerThanTheRest) {
-  ByteReader in(
-      "\x05\x00"
-      "abcd"s,
-      "reading", "F");
+  const std::string bytes("\x05\0abcd", 6);
+  ByteReader in(bytes, "reading", "F");
   EXPECT_THROW(in.Str16(), RuntimeError);
 }
 

@@ -52,6 +52,7 @@ TEST(Text, CutsAndReplaces) {
   EXPECT_EQ(ReplaceAll("abc", "", "x"), "abc");
   EXPECT_EQ(SplitLines("a\r\n\r\nb\nc"), (std::vector<std::string_view>{"a", "", "b", "c"}));
   EXPECT_EQ(SplitLines("a\r\n"), (std::vector<std::string_view>{"a"}));
+  EXPECT_EQ(SplitLines("\n\ra\rb\r\r\nc\r"), (std::vector<std::string_view>{"", "", "a", "b", "", "c"}));
   EXPECT_TRUE(SplitLines("").empty());
 }
 

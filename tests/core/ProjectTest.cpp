@@ -1,0 +1,132 @@
+#include "core/Grid.h"
+#include "core/Project.h"
+#include "core/Settings.h"
+#include "platform/Paths.h"
+#include "support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+namespace landsmith {
+namespace {
+
+namespace fs = std::filesystem;
+
+TEST(Project, StartsWithTheSettings) {
+  AppSettings settings;
+  settings.LatLandCenter = 47;
+  settings.LonLandCenter = 11;
+  settings.BGL1Folder = "A";
+  settings.BGL2Folder = "B";
+  const ProjectState project = EmptyProject(settings);
+  EXPECT_EQ(project.Name, "PROJECT");
+  EXPECT_EQ(project.LatDispCenter, 47);
+  EXPECT_EQ(project.LonDispCenter, 11);
+  EXPECT_EQ(project.LatLandCenter, 47);
+  EXPECT_EQ(project.LonLandCenter, 11);
+  EXPECT_EQ(project.BGL1ProjectFolder, "A");
+  EXPECT_EQ(project.BGL2ProjectFolder, "B");
+  EXPECT_EQ(project.PhotoSeasons, 1 + 5 * 256);
+  EXPECT_EQ(project.Zoom, 1);
+  EXPECT_FALSE(project.ProjectOpen);
+}
+
+TEST(Project, ClearsEverySelection) {
+  ProjectState project;
+  project.Maps.resize(1);
+  project.Maps[0].Selected = true;
+  project.Lines.resize(1);
+  project.Lines[0].Selected = true;
+  project.Lines[0].Points = {{1, 2, 3, true}};
+  project.Polys.resize(1);
+  project.Polys[0].Selected = true;
+  project.Polys[0].Points = {{1, 2, 3, true}};
+  project.Fills.resize(1);
+  project.Fills[0].Selected = true;
+  project.Excludes.resize(1);
+  project.Excludes[0].Selected = true;
+  project.Photos.resize(1);
+  project.Photos[0].Selected = true;
+  project.Meshes.resize(1);
+  project.Meshes[0].Selected = true;
+  project.Objects.resize(1);
+  project.Objects[0].Selected = true;
+  project.Lands.Set(5, 6, 130);
+  project.NoOfLands = 1;
+  ProjectState expected = project;
+  expected.Maps[0].Selected = expected.Lines[0].Selected = expected.Polys[0].Selected = false;
+  expected.Lines[0].Points[0].Selected = expected.Polys[0].Points[0].Selected = false;
+  expected.Fills[0].Selected = expected.Excludes[0].Selected = expected.Photos[0].Selected = false;
+  expected.Meshes[0].Selected = expected.Objects[0].Selected = false;
+  expected.Lands.Set(5, 6, 2);
+  ClearAllSelected(project);
+  EXPECT_EQ(project, expected);
+  EXPECT_FALSE(project.Waters.IsAllocated());  // no grid is made for it
+}
+
+TEST(Project, TakesGridBoxesFromGridNumbers) {
+  ProjectState project;
+  project.Fills.push_back({false, 4, 0, 3, 2, 0, 408, 121, {}});
+  project.Photos.push_back({false, 408, 121, 6, 18, {}});
+  project.Meshes.push_back({false, 0, 408, 121, {}});
+  ComputeGridBoxes(project);
+  // Column 3 of fills of size 4 begins at Area 12, row 2 at Area 8.
+  const double west = 408 * 0.46875 + 12 * 0.0146484375 - 180;
+  const double north = 90 - (121 * 0.3515625 + 8 * 0.010986328125);
+  EXPECT_EQ(project.Fills[0].Box, (GeoBox{north, north - 4 * 0.010986328125, west, west + 4 * 0.0146484375}));
+  EXPECT_EQ(project.Photos[0].Box, AreaBox(47.26, 11.34));
+  EXPECT_EQ(project.Meshes[0].Box, CellBox(47.26, 11.34));
+}
+
+TEST(Project, BoundsAPath) {
+  LineRec line;
+  line.Points = {{-1, 5, 0, false}, {3, -2, 0, false}};
+  SetPathBounds(line);
+  EXPECT_EQ(line.Box, (GeoBox{5, -2, -1, 3}));
+  line.Points.clear();
+  SetPathBounds(line);
+  EXPECT_EQ(line.Box, GeoBox{});
+}
+
+TEST(ProjectFolders, AreReplacedWhenMissingAndMade) {
+  const test::TempFolder temp;
+  AppSettings settings;
+  settings.BGL1Folder = AppFolderText(temp.Path(), "scenery");
+  settings.BGL2Folder = settings.BGL1Folder;
+  fs::create_directory(temp / "Own");
+  ProjectState project;
+  project.BGL1ProjectFolder = PathText(temp.Path()) + "\\own";  // found in another case, so it stays
+  project.BGL2ProjectFolder = PathText(temp.Path()) + "\\gone";
+  ResolveProjectFolders(project, settings);
+  EXPECT_EQ(project.BGL1ProjectFolder, PathText(temp.Path()) + "\\own");
+  EXPECT_EQ(project.BGL2ProjectFolder, settings.BGL2Folder);
+  EXPECT_TRUE(fs::is_directory(temp / "scenery"));
+  EXPECT_TRUE(fs::is_directory(temp / "Texture"));  // beside the first folder
+  EXPECT_FALSE(fs::exists(temp / "gone"));
+}
+
+TEST(ProjectFolders, OnADriveOfAnotherSystemAreMissing) {
+  const test::TempFolder temp;
+  const fs::path before = fs::current_path();
+  fs::current_path(temp.Path());
+  AppSettings settings;
+  settings.BGL1Folder = settings.BGL2Folder = "D:\\Scenery";  // settings brought from elsewhere
+  ProjectState project;
+  project.BGL1ProjectFolder = "C:\\Scenery";
+  ResolveProjectFolders(project, settings);
+  fs::current_path(before);
+  EXPECT_EQ(project.BGL1ProjectFolder, "D:\\Scenery");
+  EXPECT_TRUE(fs::is_empty(temp.Path()));  // no folder named "D:" was made
+}
+
+TEST(ProjectFolders, PutTexturesBesideTheFirst) {
+  ProjectState project;
+  for (const auto& [folder, textures] :
+       {std::pair("C:\\a\\b", "C:\\a\\Texture"), std::pair("/a/b\\scenery", "/a/b\\Texture"),
+        std::pair("/a/b/", "/a/b/Texture")}) {
+    project.BGL1ProjectFolder = folder;
+    EXPECT_EQ(TextureFolder(project), textures);
+  }
+}
+
+}  // namespace
+}  // namespace landsmith
