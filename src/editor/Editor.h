@@ -47,9 +47,11 @@ public:
   void OpenProjectCommand();              ///< mnuFOpen: question, dialog
   bool OpenProject(const std::filesystem::path& path);
   void OpenRecent(std::size_t slot);
-  bool Save();                         ///< mnuFSave
-  bool SaveAs();                       ///< mnuFSaveAs
-  bool MayClose();                     ///< the exit question
+  bool Save();      ///< mnuFSave
+  bool SaveAs();    ///< mnuFSaveAs
+  bool MayClose();  ///< the exit question
+  /// The question before the project is replaced; true when nothing is lost or the user agrees.
+  bool MayDropChanges();
   void Append(std::string_view kind);  ///< the importers of wiring/
   void SetGrid(int lod);               ///< mnuG0..mnuG19
   void ToggleShown(LayerKind kind);    ///< mnuVLines ...
@@ -87,7 +89,6 @@ private:
   void ShowCursor();
   void LeaveProject();
   void ProjectReplaced();
-  bool MayDropChanges();
   std::optional<std::filesystem::path> AskProjectPath();
   void AfterViewChange();
   void StepZoomBy(ZoomStep step, PixelOffset at);

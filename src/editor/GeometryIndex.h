@@ -14,7 +14,7 @@ namespace landsmith {
 
 /// A piece of a line: its vertices `first` to `last`, both included. Neighbours share a vertex; a line of one
 /// point is one run.
-struct LineRun {
+struct VertexRun {
   std::uint32_t line = 0;
   std::uint32_t first = 0, last = 0;
 };
@@ -32,7 +32,7 @@ public:
   explicit GeometryIndex(const ProjectState& project);
 
   /// In drawing order, each line's runs one after the other.
-  const std::vector<LineRun>& LineRuns() const { return m_runs; }
+  const std::vector<VertexRun>& LineRuns() const { return m_runs; }
   const BoxGrid& LineRunBoxes() const { return m_runBoxes; }
   const BoxGrid& PolyBoxes() const { return m_polyBoxes; }
   /// Whether the line or polygon had a selected vertex when the index was made. Selecting makes no new index,
@@ -41,7 +41,7 @@ public:
   bool PolyHadSelection(std::size_t poly) const { return m_polyHadSelection[poly] != 0; }
 
 private:
-  std::vector<LineRun> m_runs;
+  std::vector<VertexRun> m_runs;
   BoxGrid m_runBoxes;
   BoxGrid m_polyBoxes;
   std::vector<std::uint8_t> m_lineHadSelection, m_polyHadSelection;

@@ -75,6 +75,12 @@ fs::path MapPath(std::string_view stored) {
 #endif
 }
 
+fs::path MapPathIn(const fs::path& folder, std::string_view stored) {
+  fs::path alone = MapPath(stored);
+  if (alone.is_absolute() || NamesForeignDrive(stored)) return alone;
+  return MapPath(PathText(folder) + "/" + std::string(stored));
+}
+
 bool NamesForeignDrive([[maybe_unused]] std::string_view stored) {
 #ifdef _WIN32
   return false;

@@ -14,6 +14,9 @@ namespace landsmith {
 /// it stands, so that the result can be created. `stored` is UTF-8.
 std::filesystem::path MapPath(std::string_view stored);
 
+/// The same for a text that counts from `folder` unless it is absolute.
+std::filesystem::path MapPathIn(const std::filesystem::path& folder, std::string_view stored);
+
 /// True when the text begins with a drive letter on a system that has no drives: such a path is missing.
 bool NamesForeignDrive(std::string_view stored);
 

@@ -9,12 +9,6 @@ namespace landsmith {
 
 namespace {
 
-/// A file named in a command line, as the program run in `workingFolder` would find it.
-std::filesystem::path FileOfCommand(const std::string& name, const std::filesystem::path& workingFolder) {
-  const bool absolute = name.starts_with('/') || name.starts_with('\\') || name.find(':') == 1;
-  return MapPath(absolute ? name : PathText(workingFolder) + "/" + name);
-}
-
 std::filesystem::path LogOfTool(std::string_view program, const std::filesystem::path& workingFolder) {
   const auto work = FindInFolder(workingFolder, "work");
   std::error_code ignored;
@@ -27,7 +21,7 @@ int DeleteFiles(const std::vector<std::string>& arguments, const std::filesystem
   int result = 0;
   for (std::size_t i = 1; i < arguments.size(); ++i) {
     std::error_code failure;
-    std::filesystem::remove(FileOfCommand(arguments[i], workingFolder), failure);
+    std::filesystem::remove(MapPathIn(workingFolder, arguments[i]), failure);
     if (failure) result = 1;
   }
   return result;
@@ -36,8 +30,8 @@ int DeleteFiles(const std::vector<std::string>& arguments, const std::filesystem
 /// "copy FROM TO", TO being a file or a folder.
 int CopyOneFile(const std::vector<std::string>& arguments, const std::filesystem::path& workingFolder) {
   if (arguments.size() != 3) return 1;
-  const std::filesystem::path from = FileOfCommand(arguments[1], workingFolder);
-  std::filesystem::path to = FileOfCommand(arguments[2], workingFolder);
+  const std::filesystem::path from = MapPathIn(workingFolder, arguments[1]);
+  std::filesystem::path to = MapPathIn(workingFolder, arguments[2]);
   std::error_code failure;
   if (std::filesystem::is_directory(to, failure)) to /= from.filename();
   std::filesystem::copy_file(from, to, std::filesystem::copy_options::overwrite_existing, failure);
@@ -126,7 +120,7 @@ int SystemToolRunner::RunTool(std::string_view commandLine, const std::filesyste
 
 int SystemToolRunner::RunBatch(const std::string& fileName, const std::filesystem::path& workingFolder,
                                Progress& progress) {
-  const std::string content = ReadWholeFile(FileOfCommand(fileName, workingFolder));
+  const std::string content = ReadWholeFile(MapPathIn(workingFolder, fileName));
   std::string_view rest = content;
   int result = 0;
   while (!rest.empty()) {
@@ -148,7 +142,7 @@ int SystemToolRunner::RunBatch(const std::string& fileName, const std::filesyste
 }
 
 int SystemToolRunner::ShowReport(const std::string& fileName, const std::filesystem::path& workingFolder) {
-  const std::string bytes = ReadWholeFile(FileOfCommand(fileName, workingFolder));
+  const std::string bytes = ReadWholeFile(MapPathIn(workingFolder, fileName));
   m_dialogs.ShowText(fileName, m_decode ? m_decode(bytes) : bytes);
   return 0;
 }

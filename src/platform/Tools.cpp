@@ -36,9 +36,7 @@ std::optional<std::filesystem::path> FindWindowsProgram(std::string_view program
   const std::size_t start = LastComponentStart(program);
   const std::string fileName = ToolName(program) + std::string(ProgramEnding);
   if (start == 0) return FindInFolder(toolsFolder, fileName);
-  const std::string folder(program.substr(0, start));
-  const bool absolute = folder.starts_with('/') || folder.starts_with('\\') || folder.find(':') == 1;
-  return FindExisting(absolute ? folder + fileName : PathText(toolsFolder) + "/" + folder + fileName);
+  return FindExisting(PathText(MapPathIn(toolsFolder, std::string(program.substr(0, start)) + fileName)));
 }
 
 std::optional<std::filesystem::path> FindStandIn(std::string_view program,

@@ -103,7 +103,9 @@ void ClassItemList::ShowAll(int current) {
       auto* entry = new QListWidgetItem(QString::fromStdString(item.Text), m_controls.list);
       QPixmap mark(16, 16);
       mark.fill(QColor(item.R, item.G, item.B));
-      entry->setIcon(QIcon(mark));
+      QIcon icon(mark);
+      icon.addPixmap(mark, QIcon::Selected);  // the true colour in the marked row too
+      entry->setIcon(icon);
     }
     m_controls.list->setCurrentRow(current);
   }

@@ -30,7 +30,9 @@ void ColorSwatch::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const ColorParts parts = SplitColor(m_color);
-  painter.setPen(palette().color(isDown() ? QPalette::Highlight : QPalette::Mid));
+  QColor frame = palette().color(isDown() ? QPalette::Highlight : QPalette::WindowText);
+  frame.setAlpha(140);
+  painter.setPen(frame);
   painter.setBrush(QColor(parts.R, parts.G, parts.B));
   painter.drawRoundedRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5), 3, 3);
   if (!hasFocus()) return;

@@ -70,6 +70,7 @@ void LineTypeFields::ShowVtp(const std::string& type, std::int32_t color) {
   m_ui.optNameTex->setChecked(named);
   m_ui.optAptTex->setChecked(!named);
   m_ui.txtNameTex->setText(named ? QString::fromStdString(texture) : QString());
+  m_ui.txtNameTex->setCursorPosition(0);
   if (vtp && !named) {
     const std::size_t found = FindTexture(catalog, texture);
     if (found < catalog.size()) m_session.currentLineTexture = found;
@@ -100,6 +101,7 @@ void LineTypeFields::ChooseNamed() {
   frmNamesT names(m_session, TextureKind::Line, m_ui.lbColor->Color(), m_dialog);
   if (names.exec() != QDialog::Accepted) return;
   m_ui.txtNameTex->setText(QString::fromStdString(names.TextureName()));
+  m_ui.txtNameTex->setCursorPosition(0);
   m_ui.lbColor->SetColor(names.Color());
   m_ui.optNameTex->setChecked(true);
 }

@@ -4,11 +4,23 @@
 #include "forms/QtText.h"
 
 #include <QAction>
+#include <QFont>
 #include <QPoint>
 
 #include <cmath>
 
 namespace landsmith {
+
+namespace {
+
+void MakeTitle(QAction& action) {
+  QFont font = action.font();
+  font.setBold(true);
+  action.setFont(font);
+  action.setEnabled(false);
+}
+
+}  // namespace
 
 PopupMenus::PopupMenus(QWidget& canvas, Editor& editor)
     : m_canvas(canvas),
@@ -42,7 +54,7 @@ QAction* PopupMenus::Add(QMenu& menu, const char* name, const QString& text, voi
   if (command)
     QObject::connect(action, &QAction::triggered, &m_canvas, [this, command] { (this->*command)(); });
   else
-    action->setEnabled(false);
+    MakeTitle(*action);
   return action;
 }
 

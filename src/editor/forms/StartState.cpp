@@ -14,7 +14,7 @@
 namespace landsmith {
 
 QAction& frmStart::Action(const QString& name) {
-  return *findChild<QAction*>(name);
+  return *m_actions.value(name);
 }
 
 void frmStart::RefreshUi() {
@@ -25,7 +25,6 @@ void frmStart::RefreshUi() {
   RefreshViewMenu();
   RefreshSelectMenu();
   RefreshModes();
-  RefreshTutorials();
 }
 
 void frmStart::RefreshFileMenu() {
@@ -90,7 +89,7 @@ void frmStart::RefreshSelectMenu() {
   }
   for (QAction* all : {m_ui->mnuSAll, m_ui->mnuESelectAll}) {
     all->setEnabled(open && anyKind);
-    if (nothing) all->setChecked(false);
+    all->setChecked(m_session.tool.SelectAllOn);
   }
 }
 

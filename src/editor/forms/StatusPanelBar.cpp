@@ -18,8 +18,8 @@ struct PanelRow {
 };
 
 constexpr std::array Panels{
-    PanelRow{"sbLat", "N88* 88' 88.88\"", "Latitude under the mouse", &StatusPanels::Lat},
-    PanelRow{"sbLon", "W188* 88' 88.88\"", "Longitude under the mouse", &StatusPanels::Lon},
+    PanelRow{"sbLat", "88° 88' 88.8888'' N", "Latitude under the mouse", &StatusPanels::Lat},
+    PanelRow{"sbLon", "188° 88' 88.8888'' W", "Longitude under the mouse", &StatusPanels::Lon},
     PanelRow{"sbLod5", " Lod5 = 88 88", "LOD5 tile, column and row from the north-west", &StatusPanels::Lod5},
     PanelRow{"sbCell", " Cell = 888 888", "Cell (LOD8), column and row from the north-west",
              &StatusPanels::Cell},
@@ -33,7 +33,7 @@ constexpr std::array Panels{
 /// Wants the width of its widest text, but gives way: a narrow window stays possible.
 class Panel final : public QLabel {
 public:
-  explicit Panel(const PanelRow& row) : m_widest(QString::fromLatin1(row.widest)) {
+  explicit Panel(const PanelRow& row) : m_widest(QString::fromUtf8(row.widest)) {
     setObjectName(QString::fromLatin1(row.name));
     setToolTip(QString::fromLatin1(row.tip));
     setTextFormat(Qt::PlainText);

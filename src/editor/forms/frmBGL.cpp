@@ -116,8 +116,6 @@ void frmBGL::Compile() {
   const std::vector<std::string_view> wanted = WantedSteps();
   CompileReport report;
   m_stop = false;
-  m_stepsStarted = 0;
-  m_stepsWanted = std::max<std::size_t>(wanted.size(), 1);
   SetRunning(true);
   EnableCompile();
   QGuiApplication::setOverrideCursor(Qt::WaitCursor);
@@ -142,10 +140,11 @@ void frmBGL::RunWanted(const std::vector<std::string_view>& wanted, CompileRepor
                                m_session.folders, m_session.tools,
                                m_session.dialogs, *this,
                                options,           report};
-  RunSteps(m_steps, wanted, context, [this](const StepInfo& step) {
-    ++m_stepsStarted;
+  std::size_t started = 0;
+  RunSteps(m_steps, wanted, context, [&](const StepInfo& step) {
+    m_ui->lbStep->setText(tr("%1 (%2 of %3)").arg(ToText(step.Caption)).arg(++started).arg(wanted.size()));
     m_sinceEvents.invalidate();  // each step's name is seen
-    Step(0, step.Caption);
+    Wait();
   });
 }
 
@@ -155,11 +154,11 @@ void frmBGL::StartSimulator() {
   m_session.tools.Start('"' + PathText(program) + '"', folder);
 }
 
+// Nothing done yet shows as a busy bar: the first compiler may take all the time there is.
 bool frmBGL::Step(double fraction, std::string_view phrase) {
   m_ui->lbStep->setText(ToText(phrase));
-  const auto before = static_cast<double>(m_stepsStarted > 0 ? m_stepsStarted - 1 : 0);
-  const double whole = (before + std::clamp(fraction, 0.0, 1.0)) / static_cast<double>(m_stepsWanted);
-  m_ui->barProgress->setValue(static_cast<int>(std::lround(whole * FullScale)));
+  m_ui->barProgress->setMaximum(fraction > 0 ? FullScale : 0);
+  m_ui->barProgress->setValue(static_cast<int>(std::lround(std::clamp(fraction, 0.0, 1.0) * FullScale)));
   return Wait();
 }
 

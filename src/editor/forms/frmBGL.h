@@ -10,7 +10,6 @@
 #include <QDialog>
 #include <QElapsedTimer>
 
-#include <cstddef>
 #include <filesystem>
 #include <memory>
 #include <string_view>
@@ -54,7 +53,6 @@ private:
   std::unique_ptr<Ui::frmBGL> m_ui;
   bool m_running = false;
   bool m_stop = false;
-  std::size_t m_stepsStarted = 0, m_stepsWanted = 0;
   QElapsedTimer m_sinceEvents;
   std::vector<std::filesystem::path> m_written;
 };

@@ -45,8 +45,10 @@ frmBrowse::frmBrowse(const std::filesystem::path& start, QWidget* parent)
             m_ui->txtFolder->setText(QDir::toNativeSeparators(m_model->filePath(folder)));
           });
   // The folders above a place are read in the background; the view follows when they are there.
-  connect(m_model, &QFileSystemModel::directoryLoaded, this,
-          [this] { m_ui->dirList->scrollTo(m_ui->dirList->currentIndex()); });
+  connect(
+      m_model, &QFileSystemModel::directoryLoaded, this,
+      [this] { m_ui->dirList->scrollTo(m_ui->dirList->currentIndex(), QAbstractItemView::PositionAtCenter); },
+      Qt::QueuedConnection);
   connect(m_model, &QFileSystemModel::fileRenamed, this, [this] {
     m_ui->txtFolder->setText(QDir::toNativeSeparators(m_model->filePath(m_ui->dirList->currentIndex())));
   });

@@ -85,6 +85,7 @@ void frmLinesP::ShowDefaults(LineDefaults& defaults, const QString& mode) {
   setWindowTitle(tr("Imported Lines (%1)").arg(mode));
   m_type->Show(defaults.Type, defaults.Color);
   ShowWidths((defaults.FirstWidth + defaults.LastWidth) / 2, defaults.FirstWidth, defaults.LastWidth);
+  resize(width(), minimumSizeHint().height());
 }
 
 void frmLinesP::ShowWidths(float mean, float first, float last) {

@@ -127,7 +127,8 @@ std::int32_t frmNamesT::Color() const {
 }
 
 void frmNamesT::ShowTextureName() {
-  m_ui->lbText->setText(QString::fromStdString(TextureName()));
+  m_ui->txtText->setText(QString::fromStdString(TextureName()));
+  m_ui->txtText->setCursorPosition(0);
 }
 
 void frmNamesT::AddToCatalog() {

@@ -39,6 +39,8 @@ std::optional<std::filesystem::path> DraggedProject(const QMimeData& data) {
 frmStart::frmStart(Session& session, QWidget* parent)
     : QMainWindow(parent), m_session(session), m_ui(std::make_unique<Ui::frmStart>()) {
   m_ui->setupUi(this);
+  for (QAction* action : findChildren<QAction*>())
+    m_actions.insert(action->objectName(), action);
   setWindowIcon(ProgramIcon());
   setCentralWidget(m_ui->canvas);
   m_status = std::make_unique<StatusPanelBar>(*m_ui->statusBar);
@@ -69,11 +71,14 @@ frmStart::frmStart(Session& session, QWidget* parent)
   RestoreWindow(*this, m_session.folders.AppPath);
   m_ui->canvas->Connect(m_editor.get());
   m_ui->canvas->setFocus();
+  connect(m_ui->mnuHelp, &QMenu::aboutToShow, this, &frmStart::RefreshTutorials);
+  RefreshTutorials();
   RefreshUi();
 }
 
 frmStart::~frmStart() {
   m_ui->canvas->Connect(nullptr);
+  m_editor.reset();  // its end still stops timers
 }
 
 void frmStart::Start(const std::optional<std::filesystem::path>& project) {
@@ -197,7 +202,9 @@ void frmStart::dropEvent(QDropEvent* event) {
   if (!project) return;
   event->acceptProposedAction();
   // The program that the file was dragged from waits until this event is done.
-  QTimer::singleShot(0, this, [this, path = *project] { m_editor->OpenProject(path); });
+  QTimer::singleShot(0, this, [this, path = *project] {
+    if (m_editor->MayDropChanges()) m_editor->OpenProject(path);
+  });
 }
 
 }  // namespace landsmith

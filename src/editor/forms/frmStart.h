@@ -6,13 +6,16 @@
 #include "forms/PopupMenus.h"
 #include "forms/StatusPanelBar.h"
 
+#include <QHash>
 #include <QMainWindow>
 
+#include <filesystem>
 #include <functional>
 #include <map>
 #include <memory>
 #include <optional>
 
+class QAction;
 class QLabel;
 class QTimer;
 
@@ -85,6 +88,7 @@ private:
 
   Session& m_session;
   std::unique_ptr<Ui::frmStart> m_ui;
+  QHash<QString, QAction*> m_actions;
   std::unique_ptr<StatusPanelBar> m_status;
   std::unique_ptr<Editor> m_editor;
   std::unique_ptr<PopupMenus> m_popups;

@@ -1,0 +1,22 @@
+// Checks a parsed source against the table of known statements, and keeps what a BGL is made of.
+#pragma once
+
+#include "simtools/BglWriter.h"
+#include "simtools/ScmParser.h"
+#include "simtools/VtpBgl.h"
+
+#include <optional>
+#include <vector>
+
+namespace landsmith::simtools {
+
+struct CheckedSource {
+  BglHeader Header;
+  std::optional<VtpFile> Vtp;    ///< the vector terrain of the source, if it has any
+  std::vector<ScmError> Errors;  ///< by line, those of the parser included; the rest counts without any alone
+};
+
+/// Never throws for what a source says.
+CheckedSource CheckScm(const ScmSource& source);
+
+}  // namespace landsmith::simtools
