@@ -1,6 +1,7 @@
 // Lines in their true width: one quad a segment, one more where two segments meet.
 #include "editor/PaintHelpers.h"
 #include "editor/Painters.h"
+#include "editor/QuadRaster.h"
 #include "editor/RingClip.h"
 
 #include <array>
@@ -18,6 +19,10 @@ constexpr double LeastJointWidth = 2;
 /// A vertex that lies nearer than this to the one before, and is as wide, adds no pixel worth painting.
 constexpr double ThinningPixels = 0.5, ThinningHalfWidth = 0.25;
 
+constexpr std::size_t MaxSpans = 16384;
+/// From this many segments on a painter is too slow.
+constexpr std::size_t QuickSegments = 4000;
+
 struct StrokeVertex {
   double x = 0, y = 0;
   double half = 0;  ///< half the width on screen
@@ -32,26 +37,35 @@ bool IsSamePlace(const StrokeVertex& a, const StrokeVertex& b) {
 
 class LinePainter {
 public:
-  LinePainter(Surface& surface, const PaintInput& in) : m_surface(surface), m_in(in) {}
+  /// `quick`: small quads go to the surface as pixels, many at a time.
+  LinePainter(Surface& surface, const PaintInput& in, bool quick)
+      : m_surface(surface), m_in(in), m_quick(quick) {}
 
   /// `runs`: those of one line that meet the view. True when a segment was drawn.
-  bool Paint(const LineRec& line, std::span<const LinePiece> runs) {
-    const std::int32_t color = line.Selected ? m_in.settings.LnColorSel : line.Color;
-    m_surface.SetPen(color);
-    m_surface.SetBrush(color);
-    m_joined = m_drawn = false;
+  bool Paint(const LineRec& line, std::span<const VertexRun> runs) {
+    UseColor(line.Selected ? m_in.settings.LnColorSel : line.Color);
+    m_joined = m_drawn = m_painted = false;
     std::uint32_t reached = 0;
-    for (const LinePiece& run : runs) {
+    for (const VertexRun& run : runs) {
       if (run.first != reached) m_joined = false;
       PaintRun(line, run);
       reached = run.last;
     }
+    // Not even a pixel: the line lies within one.
+    if (m_drawn && !m_painted) AddPixel(m_start);
     return m_drawn;
   }
 
-  void PaintMarks(const LineRec& line, std::span<const LinePiece> runs, bool anySelected) {
+  /// Nothing is on the surface for sure before this.
+  void Flush() {
+    if (!m_spans.empty()) m_surface.Spans(m_spans, m_color);
+    m_spans.clear();
+  }
+
+  void PaintMarks(const LineRec& line, std::span<const VertexRun> runs, bool anySelected) {
+    Flush();
     std::size_t next = 0;
-    for (const LinePiece& run : runs) {
+    for (const VertexRun& run : runs) {
       for (std::size_t i = std::max<std::size_t>(next, run.first); i <= run.last; ++i)
         PaintMark(line, i, anySelected);
       next = run.last + std::size_t{1};
@@ -69,7 +83,7 @@ private:
            SegmentCrossesView(m_in.view, a.Lon, a.Lat, b.Lon, b.Lat);
   }
 
-  void PaintRun(const LineRec& line, const LinePiece& run) {
+  void PaintRun(const LineRec& line, const VertexRun& run) {
     for (std::size_t i = run.first + std::size_t{1}; i <= run.last; ++i) {
       const LinePoint &from = line.Points[i - 1], &to = line.Points[i];
       if (!IsVisible(from, to)) {
@@ -106,13 +120,41 @@ private:
     const auto isFar = [](CanvasPoint at) { return std::abs(at.x) > FarPixel || std::abs(at.y) > FarPixel; };
     if (std::any_of(m_quad.begin(), m_quad.end(), isFar)) {
       const auto cut = RoundedRing(CutFarParts({m_quad.begin(), m_quad.end()}));
-      if (!cut.empty()) m_surface.Polygon(cut);
+      if (!cut.empty()) PaintPolygon(cut);
       return;
     }
-    std::array<PixelPoint, 4> corners;
+    PixelQuad corners;
     for (std::size_t i = 0; i < corners.size(); ++i)
       corners[i] = {RoundPixel(m_quad[i].x), RoundPixel(m_quad[i].y)};
-    m_surface.Polygon(corners);
+    const bool collapsed = corners[0] == corners[1] && corners[0] == corners[2] && corners[0] == corners[3];
+    if (collapsed) return;  // a painter sets no pixel for it either
+    if (!m_quick || !IsOnCanvas(corners) || !AppendQuad(corners, m_spans)) PaintPolygon(corners);
+    m_painted = true;
+  }
+
+  /// A painter cuts the edges that leave the canvas, which turns them a little.
+  bool IsOnCanvas(const PixelQuad& corners) const {
+    return std::all_of(corners.begin(), corners.end(), [this](PixelPoint at) {
+      return at.x >= 0 && at.y >= 0 && at.x < m_in.view.ScaleWidth && at.y < m_in.view.ScaleHeight;
+    });
+  }
+
+  void PaintPolygon(std::span<const PixelPoint> ring) {
+    Flush();
+    m_surface.SetPen(m_color);
+    m_surface.SetBrush(m_color);
+    m_surface.Polygon(ring);
+    m_painted = true;
+  }
+
+  void AddPixel(const StrokeVertex& at) {
+    const PixelPoint pixel = HeldPixel({at.x, at.y});
+    m_spans.push_back({pixel.y, pixel.x, pixel.x + 1});
+  }
+
+  void UseColor(std::int32_t color) {
+    if (color != m_color || m_spans.size() > MaxSpans) Flush();
+    m_color = color;
   }
 
   void PaintMark(const LineRec& line, std::size_t i, bool anySelected) {
@@ -129,10 +171,14 @@ private:
 
   Surface& m_surface;
   const PaintInput& m_in;
+  bool m_quick;
   StrokeVertex m_start;
   Quad m_quad{};
   bool m_joined = false;  ///< m_start and the last two corners are those of a segment painted just before
   bool m_drawn = false;
+  bool m_painted = false;  ///< at least a pixel of the line
+  std::int32_t m_color = 0;
+  std::vector<PixelSpan> m_spans;  ///< in m_color, not yet on the surface
 };
 
 }  // namespace
@@ -143,11 +189,14 @@ void DisplayLines(Surface& surface, const PaintInput& in, std::vector<std::uint8
   std::optional<GeometryIndex> own;
   const GeometryIndex& index = in.index != nullptr ? *in.index : own.emplace(in.project);
 
-  std::vector<LinePiece> runs;
+  std::vector<VertexRun> runs;
   for (const std::uint32_t number : index.LineRunBoxes().Meeting(in.view.VisibleBox()))
     runs.push_back(index.LineRuns()[number]);
 
-  LinePainter painter(surface, in);
+  std::size_t segments = 0;
+  for (const VertexRun& run : runs)
+    segments += run.last - run.first;
+  LinePainter painter(surface, in, segments > QuickSegments);
   for (std::size_t first = 0, behind = 0; first < runs.size(); first = behind) {
     const std::uint32_t number = runs[first].line;
     while (behind < runs.size() && runs[behind].line == number)
@@ -161,6 +210,7 @@ void DisplayLines(Surface& surface, const PaintInput& in, std::vector<std::uint8
     const bool editing = in.tool.Mode == ModeId::Line && !in.tool.Selected.SelectionActive;
     if (selected || editing) painter.PaintMarks(line, lineRuns, selected);
   }
+  painter.Flush();
 }
 
 }  // namespace landsmith

@@ -1,6 +1,7 @@
 #include "editor/PaintHelpers.h"
 #include "editor/Painters.h"
 #include "editor/RingClip.h"
+#include "editor/RingRaster.h"
 
 #include <array>
 #include <optional>
@@ -29,8 +30,13 @@ private:
   void PaintRing(const PolyRec& poly) {
     const auto ring = RoundedRing(CutFarParts(WithoutHiddenStretches(m_canvas, m_frame)));
     if (ring.empty()) return;
-    m_surface.SetPen(m_in.settings.PolyColorBorder);
-    if (m_in.settings.PolyFill) {
+    const AppSettings& settings = m_in.settings;
+    if (CountCrossings(ring, m_surface.Height()) > PainterCrossings) {
+      PaintHugeRing(m_surface, ring, {settings.PolyColorBorder, poly.Color, settings.PolyFill});
+      return;
+    }
+    m_surface.SetPen(settings.PolyColorBorder);
+    if (settings.PolyFill) {
       m_surface.SetBrush(poly.Color);
       m_surface.Polygon(ring);
       return;

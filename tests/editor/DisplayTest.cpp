@@ -99,6 +99,7 @@ TEST_F(DisplayTest, AMillionPointsWithinOnePixelStillPaintSomething) {
   LineRec line = Line({{0, 0}});
   line.Points.resize(1000, line.Points[0]);
   session.project.Lines.push_back(line);
+  ++session.Revision;
   editor.Canvas().DisplayAll();
   EXPECT_GE(canvas.base.calls.size(), 1U);
   EXPECT_LT(canvas.base.calls.size(), 10U);
@@ -109,6 +110,7 @@ TEST_F(DisplayTest, AtTheHighestZoomFarEndsDoNotOverflow) {
   session.project.Polys.emplace_back();
   session.project.Polys[0].Points = {{-170, -80, 0, false}, {170, -80, 0, false}, {0, 85, 0, false}};
   SetPathBounds(session.project.Polys[0]);
+  ++session.Revision;
   session.view.Zoom = 65536;
   editor.Resize(800, 600);
   const auto shapes = canvas.base.Of(Kind::Polygon);
@@ -129,6 +131,7 @@ TEST_F(DisplayTest, HiddenStretchesOfARingFallAway) {
   }
   SetPathBounds(poly);
   session.project.Polys.push_back(poly);
+  ++session.Revision;
   editor.Canvas().DisplayAll();
   const auto shapes = canvas.base.Of(Kind::Polygon);
   ASSERT_EQ(shapes.size(), 1U);

@@ -135,7 +135,11 @@ public:
   bool shift = false, ctrl = false;
 
 private:
-  Session NewSession() { return {.folders = {.AppPath = folder.Path()}, .dialogs = dialogs, .tools = tools}; }
+  Session NewSession() {
+    ProgramFolders folders;
+    folders.AppPath = folder.Path();
+    return Session(folders, dialogs, tools);
+  }
 
   PixelOffset m_at;
   MouseButton m_button = MouseButton::Left;

@@ -13,7 +13,7 @@ namespace landsmith::test {
 class RecordingSurface final : public Surface {
 public:
   struct Call {
-    enum class Kind { Polygon, Polyline, Box, Spans, Image, Text } kind;
+    enum class Kind { Polygon, Polyline, Box, Spans, Image, Text } kind = Kind::Polygon;
     std::int32_t pen = 0, penWidth = 1, brush = 0;
     PenStyle penStyle = PenStyle::Solid;
     BrushStyle brushStyle = BrushStyle::None;
@@ -70,7 +70,7 @@ private:
     calls.back().kind = kind;
     return calls.back();
   }
-  Call m_now{Call::Kind::Polygon};
+  Call m_now;
 };
 
 class RecordingCanvas final : public CanvasSurfaces {
