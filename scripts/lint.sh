@@ -11,6 +11,8 @@ if [ "$enabled" -ne "$expected" ]; then
   exit 1
 fi
 
+# Headers reach the compiler through include/landsmith_*; what Qt generates from the forms lies elsewhere.
 find src -name '*.cpp' -print0 |
-  xargs -0 -n 3 -P 2 clang-tidy -p "$1" --quiet --extra-arg=-Wno-unknown-warning-option 2>&1 |
+  xargs -0 -n 3 -P 2 clang-tidy -p "$1" --quiet --header-filter='include/landsmith_' \
+    --extra-arg=-Wno-unknown-warning-option 2>&1 |
   { grep -v 'warnings generated\|^Suppressed \|^Use -header-filter' || true; }
