@@ -42,11 +42,11 @@ public:
       : m_surface(surface), m_in(in), m_quick(quick) {}
 
   /// `runs`: those of one line that meet the view. True when a segment was drawn.
-  bool Paint(const LineRec& line, std::span<const VertexRun> runs) {
+  bool Paint(const LineRec& line, std::span<const LinePiece> runs) {
     UseColor(line.Selected ? m_in.settings.LnColorSel : line.Color);
     m_joined = m_drawn = m_painted = false;
     std::uint32_t reached = 0;
-    for (const VertexRun& run : runs) {
+    for (const LinePiece& run : runs) {
       if (run.first != reached) m_joined = false;
       PaintRun(line, run);
       reached = run.last;
@@ -62,10 +62,10 @@ public:
     m_spans.clear();
   }
 
-  void PaintMarks(const LineRec& line, std::span<const VertexRun> runs, bool anySelected) {
+  void PaintMarks(const LineRec& line, std::span<const LinePiece> runs, bool anySelected) {
     Flush();
     std::size_t next = 0;
-    for (const VertexRun& run : runs) {
+    for (const LinePiece& run : runs) {
       for (std::size_t i = std::max<std::size_t>(next, run.first); i <= run.last; ++i)
         PaintMark(line, i, anySelected);
       next = run.last + std::size_t{1};
@@ -83,7 +83,7 @@ private:
            SegmentCrossesView(m_in.view, a.Lon, a.Lat, b.Lon, b.Lat);
   }
 
-  void PaintRun(const LineRec& line, const VertexRun& run) {
+  void PaintRun(const LineRec& line, const LinePiece& run) {
     for (std::size_t i = run.first + std::size_t{1}; i <= run.last; ++i) {
       const LinePoint &from = line.Points[i - 1], &to = line.Points[i];
       if (!IsVisible(from, to)) {
@@ -189,12 +189,12 @@ void DisplayLines(Surface& surface, const PaintInput& in, std::vector<std::uint8
   std::optional<GeometryIndex> own;
   const GeometryIndex& index = in.index != nullptr ? *in.index : own.emplace(in.project);
 
-  std::vector<VertexRun> runs;
+  std::vector<LinePiece> runs;
   for (const std::uint32_t number : index.LineRunBoxes().Meeting(in.view.VisibleBox()))
     runs.push_back(index.LineRuns()[number]);
 
   std::size_t segments = 0;
-  for (const VertexRun& run : runs)
+  for (const LinePiece& run : runs)
     segments += run.last - run.first;
   LinePainter painter(surface, in, segments > QuickSegments);
   for (std::size_t first = 0, behind = 0; first < runs.size(); first = behind) {
