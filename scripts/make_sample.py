@@ -163,7 +163,7 @@ class Sample:
         texture, colour = self.catalogue[title]
         lons, lats = [v[0] for v in vertices], [v[1] for v in vertices]
         self.records.append(
-            text(name) + text(f"VTP//{layer}//{texture}//") + struct.pack("<ihi", colour, -1, len(vertices))
+            text(name) + text(f"VTP//{layer}//{texture}//") + struct.pack("<ihi", colour, 0, len(vertices))
             + struct.pack("<hii", 1, len(vertices), 1)
             + b"".join(struct.pack("<ddfh", *vertex, 0) for vertex in vertices)
             + struct.pack("<ddddh", max(lats), min(lats), min(lons), max(lons), 0))
