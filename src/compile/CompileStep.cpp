@@ -82,6 +82,7 @@ bool RunTool(const CompileContext& context, const CompileStepRequest& request,
   if (code == ToolMissing) return false;
   if (code > 0) {
     OfferReport(context, request.FailureLine);
+    DeleteOutput(context.folders.Work(), outputName);  // what the tool had written so far
     return false;
   }
   const auto output = FindInFolder(context.folders.Work(), outputName);

@@ -18,8 +18,8 @@ struct CompileStepRequest {
 };
 
 /// Writes tools\work\NAME.scm, deletes NAME.BGL, runs "scasm work\NAME.scm -s -l" from the tools folder. An
-/// exit code above 0 brings the question whether to read SCAERROR.LOG. With CopyBGL the output goes to the
-/// project's first folder. True when the step succeeded.
+/// exit code above 0 brings the question whether to read SCAERROR.LOG, and what was written so far goes. With
+/// CopyBGL the output goes to the project's first folder. True when the step succeeded.
 bool CompileStep(const CompileContext& context, const CompileStepRequest& request);
 
 /// The project name as it stands in file names: every blank is "_".

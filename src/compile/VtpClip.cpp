@@ -117,7 +117,7 @@ std::vector<LinePoint> SnapLinePoints(const std::vector<LinePoint>& points) {
   return snapped;
 }
 
-std::vector<LineRun> ClipLineToCells(const std::vector<LinePoint>& points, const std::string& name,
+std::vector<LineRun> ClipLineToCells(const std::vector<LinePoint>& points, std::string_view name,
                                      std::int32_t texId, std::int32_t layer) {
   std::vector<Visit> visits = FindVisits(points);
   std::sort(visits.begin(), visits.end(), [](const Visit& a, const Visit& b) {

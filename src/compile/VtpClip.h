@@ -9,7 +9,7 @@
 #include "core/Records.h"
 
 #include <cstdint>
-#include <string>
+#include <string_view>
 #include <vector>
 
 namespace landsmith {
@@ -26,7 +26,7 @@ struct RunPoint {
 };
 
 struct LineRun {
-  std::string Name;
+  std::string_view Name;  ///< that of the project's line, which outlives the run
   std::int32_t TexId = 0;
   std::int32_t Layer = 0;
   std::int32_t CellX = 0, CellY = 0;
@@ -43,7 +43,7 @@ std::vector<LinePoint> SnapLinePoints(const std::vector<LinePoint>& points);
 /// hold only the last vertex and the one before is left out: the neighbour's run has that segment already.
 /// `points`: snapped, 2 or more. The work grows with the vertices and the runs; a Cell that the line only
 /// crosses costs nothing.
-std::vector<LineRun> ClipLineToCells(const std::vector<LinePoint>& points, const std::string& name,
+std::vector<LineRun> ClipLineToCells(const std::vector<LinePoint>& points, std::string_view name,
                                      std::int32_t texId, std::int32_t layer);
 
 }  // namespace landsmith

@@ -101,7 +101,9 @@ std::optional<std::string> VtpLineSource(const ProjectState& project, const AppS
   TextureNames textures;
   std::vector<LineRun> runs;
   GeoBox bounds;
-  for (const CollectedLine& collected : CollectVtpLines(project, textures)) {
+  const std::vector<CollectedLine> lines = CollectVtpLines(project, textures);
+  runs.reserve(lines.size() + lines.size() / 2);  // most lines stay in one Cell or two
+  for (const CollectedLine& collected : lines) {
     try {
       for (LineRun& run : FinishedRuns(project.Lines[collected.index], collected, settings, bounds))
         runs.push_back(std::move(run));

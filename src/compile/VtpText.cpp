@@ -1,5 +1,6 @@
 #include "compile/VtpText.h"
 
+#include "compile/Prefetch.h"
 #include "compile/ScmWriter.h"
 #include "core/Numbers.h"
 #include "vector/LineType.h"
@@ -34,11 +35,18 @@ void WriteTexture(ScmWriter& out, const VtpTexture& texture) {
   }
 }
 
+void PrefetchPoints(const VtpLayer& layer) {
+  for (const VtpTexture& texture : layer.Textures)
+    for (const VtpPoly& poly : texture.Polys)
+      Prefetch(poly.Points.data());
+}
+
 void WriteCell(ScmWriter& out, const VtpCell& cell, std::int64_t number, bool replace) {
   out.EmptyLine().Text(":cell").TwoDigits(number).EndLine().EmptyLine();
   out.Text("VTPArea( ").Integer(std::ssize(cell.Layers)).Text(" 1 ");
   out.Integer(cell.CellX & 31).Text(" ").Integer(cell.CellY & 31).Line(" )");
   for (const VtpLayer& layer : cell.Layers) {
+    PrefetchPoints(layer);
     out.Text("VTPLayer( ").Integer(layer.Layer).Text(replace ? " 1 " : " 0 ");
     out.Integer(std::ssize(layer.Textures)).Line(" 0 )");
     for (const VtpTexture& texture : layer.Textures)

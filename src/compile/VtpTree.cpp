@@ -1,5 +1,7 @@
 #include "compile/VtpTree.h"
 
+#include "compile/Prefetch.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <tuple>
@@ -18,7 +20,12 @@ public:
     VtpLayer& inLayer = FindOrAppend(cell.Layers, m_layers, layer, VtpLayer{run.Layer, {}});
     const std::uint64_t texture = (std::uint64_t{layer} << 32U) | static_cast<std::uint32_t>(run.TexId);
     VtpTexture& inTexture = FindOrAppend(inLayer.Textures, m_textures, texture, VtpTexture{run.TexId, {}});
-    inTexture.Polys.push_back({std::move(run.Name), std::move(run.Points)});
+    inTexture.Polys.push_back({run.Name, std::move(run.Points)});
+  }
+
+  void Clear() {
+    m_layers.clear();
+    m_textures.clear();
   }
 
 private:
@@ -57,10 +64,14 @@ std::vector<RunPlace> CellOrder(const std::vector<LineRun>& runs) {
 std::vector<VtpCell> GroupRuns(std::vector<LineRun> runs) {
   std::vector<VtpCell> cells;
   CellFiller filler;
-  for (const RunPlace& place : CellOrder(runs)) {
+  const std::vector<RunPlace> order = CellOrder(runs);
+  constexpr std::size_t ahead = 8;
+  for (std::size_t i = 0; i < order.size(); ++i) {
+    if (i + ahead < order.size()) Prefetch(&runs[order[i + ahead].run]);
+    const RunPlace& place = order[i];
     if (cells.empty() || cells.back().CellX != place.cellX || cells.back().CellY != place.cellY) {
       cells.push_back({place.cellX, place.cellY, {}});
-      filler = {};
+      filler.Clear();
     }
     filler.Add(cells.back(), std::move(runs[place.run]));
   }

@@ -4,13 +4,13 @@
 #include "compile/VtpClip.h"
 
 #include <cstdint>
-#include <string>
+#include <string_view>
 #include <vector>
 
 namespace landsmith {
 
 struct VtpPoly {
-  std::string Name;
+  std::string_view Name;  ///< kept by the project
   std::vector<RunPoint> Points;
 };
 struct VtpTexture {

@@ -37,6 +37,9 @@
 //   absolute  u32 x (14 bits) | width follows << 14 | y (14 bits) << 15 | steps that follow (3 bits) << 29
 //   step      u24 width follows | dx (11 bits) << 1 | dy (11 bits) << 13; two's complement, bit 12 is 0
 //   width     u8 in metres; without one the last width goes on, 0 at the start of a line
+// A vertex far from the Cell may want an absolute point that 14 bits cannot hold: x and y are then held to
+// 0..16383, each for itself. The steps behind such a point stay as they are, so whoever reads the file gets
+// them moved by as much as the point was: both corners of a strip's end move together and keep its width.
 #pragma once
 
 #include <cstdint>

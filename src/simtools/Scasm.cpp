@@ -3,6 +3,7 @@
 #include "core/Text.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
+#include "simtools/BglLayout.h"
 #include "simtools/BglWriter.h"
 #include "simtools/ScmChecker.h"
 
@@ -38,6 +39,17 @@ std::string ErrorLines(const std::string& file, const std::vector<ScmError>& err
   return text;
 }
 
+/// What an author should know about a file that is written all the same.
+void TellHeldPoints(const std::string& file, const std::vector<ScmError>& points, std::ostream& out) {
+  for (const ScmError& point : points)
+    out << file << "(" << point.Line << "): warning: " << point.Reason << "\n";
+  if (!points.empty())
+    out << points.size() << (points.size() == 1 ? " point lies" : " points lie") << " outside of 0 to "
+        << bgl::LargestPoint
+        << " and cannot stand in the file so: each is held to that range, and the steps behind it move "
+           "along\n";
+}
+
 int Refuse(const std::filesystem::path& log, const std::string& lines, std::ostream& out) {
   WriteWholeFile(log, std::string(WhoWeAre) + "\r\n\r\n" + lines);
   out << ReplaceAll(lines, "\r\n", "\n");
@@ -61,6 +73,7 @@ int Compile(const std::string& source, const std::filesystem::path& folder, std:
   const CheckedSource checked = CheckScm(ParseScm(bytes));
   if (!checked.Errors.empty()) return Refuse(log, ErrorLines(source, checked.Errors), out);
   WriteWholeFile(bgl, WriteBgl(checked.Header, checked.Vtp ? VtpBlock(*checked.Vtp) : std::string()));
+  TellHeldPoints(source, checked.HeldPoints, out);
   if (checked.Vtp)
     out << PathText(bgl) << ": " << checked.Vtp->Cells.size() << " cells of vector terrain\n";
   else

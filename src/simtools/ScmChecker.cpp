@@ -20,7 +20,8 @@ struct SourceCheck {
   bool HasBounds = false;
   bool HasBuffer = false;
   std::map<std::string, std::size_t> Labels;  ///< small letters, with the line
-  VtpChecker Vtp{Errors};
+  std::vector<ScmError> HeldPoints;
+  VtpChecker Vtp{Errors, HeldPoints};
 
   void Fail(std::size_t line, std::string reason) { Errors.push_back({line, std::move(reason)}); }
 };
@@ -161,6 +162,7 @@ CheckedSource CheckScm(const ScmSource& source) {
   std::stable_sort(check.Errors.begin(), check.Errors.end(),
                    [](const ScmError& a, const ScmError& b) { return a.Line < b.Line; });
   checked.Errors = std::move(check.Errors);
+  checked.HeldPoints = std::move(check.HeldPoints);
   return checked;
 }
 

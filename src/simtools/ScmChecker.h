@@ -14,6 +14,7 @@ struct CheckedSource {
   BglHeader Header;
   std::optional<VtpFile> Vtp;    ///< the vector terrain of the source, if it has any
   std::vector<ScmError> Errors;  ///< by line, those of the parser included; the rest counts without any alone
+  std::vector<ScmError> HeldPoints;  ///< by line: points that the file holds in another place than they say
 };
 
 /// Never throws for what a source says.

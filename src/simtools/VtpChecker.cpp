@@ -3,7 +3,9 @@
 #include "simtools/BglLayout.h"
 #include "simtools/StatementCheck.h"
 
+#include <algorithm>
 #include <array>
+#include <limits>
 #include <set>
 #include <utility>
 
@@ -95,15 +97,29 @@ void VtpChecker::WPoint(const Statement& statement, bool complete) {
   OpenBlock& block = Open(Block::Place, statement);
   if (!complete) return;
   VtpPoint point;
-  point.X = static_cast<std::int32_t>(
-      NumberArgument(statement, 0, {"x", 0, bgl::LargestPoint}, m_errors).value_or(0));
-  point.Y = static_cast<std::int32_t>(
-      NumberArgument(statement, 1, {"y", 0, bgl::LargestPoint}, m_errors).value_or(0));
+  SetPlace(point, statement);
   block.Announced = NumberArgument(statement, 2, {"the number of steps", 0, bgl::MostSteps}, m_errors);
   point.Steps = Byte(block.Announced);
   if (statement.Arguments.size() > 3)
     point.Width = Byte(NumberArgument(statement, 3, {"the width", 1, 255}, m_errors));
   m_feature.Points.push_back(point);
+}
+
+/// Lines may have vertices far from the Cell, so only what is no place at all is an error.
+void VtpChecker::SetPlace(VtpPoint& point, const Statement& statement) {
+  using Limits = std::numeric_limits<std::int32_t>;
+  const auto x = NumberArgument(statement, 0, {"x", Limits::min(), Limits::max()}, m_errors);
+  const auto y = NumberArgument(statement, 1, {"y", Limits::min(), Limits::max()}, m_errors);
+  if (!x || !y) return;
+  const auto held = [](std::int64_t value) {
+    return static_cast<std::int32_t>(std::clamp<std::int64_t>(value, 0, bgl::LargestPoint));
+  };
+  point.X = held(*x);
+  point.Y = held(*y);
+  if (point.X != *x || point.Y != *y)
+    m_heldPoints.push_back({statement.Line, statement.Name + ": the point " + std::to_string(*x) + " " +
+                                                std::to_string(*y) + " is held to " +
+                                                std::to_string(point.X) + " " + std::to_string(point.Y)});
 }
 
 void VtpChecker::CPoint(const Statement& statement, bool complete) {

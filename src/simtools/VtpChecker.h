@@ -18,7 +18,9 @@ namespace landsmith::simtools {
 
 class VtpChecker {
 public:
-  explicit VtpChecker(std::vector<ScmError>& errors) : m_errors(errors) {}
+  /// `heldPoints` takes a line for each point that BglLayout.h cannot hold where it says.
+  VtpChecker(std::vector<ScmError>& errors, std::vector<ScmError>& heldPoints)
+      : m_errors(errors), m_heldPoints(heldPoints) {}
 
   /// One operation a statement. `complete`: the number of arguments is right; otherwise the statement only
   /// takes its place among the blocks.
@@ -66,9 +68,11 @@ private:
   void Close(const OpenBlock& block);
   void CheckCount(const OpenBlock& block);
   void CheckCellAreas(const OpenBlock& block);
+  void SetPlace(VtpPoint& point, const Statement& statement);
   void CheckIndexEntry(const Statement& statement, std::size_t entry);
 
   std::vector<ScmError>& m_errors;
+  std::vector<ScmError>& m_heldPoints;
   Stage m_stage = Stage::Start;
   std::vector<OpenBlock> m_open;
   std::vector<TextureReference> m_references;

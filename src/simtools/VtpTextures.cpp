@@ -10,6 +10,7 @@ namespace {
 
 constexpr std::size_t EntryArguments = 5;     // name and four numbers
 constexpr std::size_t LongestNumberName = 4;  // a longer name is a bitmap, with or without quotes
+constexpr std::uint8_t UsualLastNumber = 4;
 
 bool IsQuoted(std::string_view text) {
   return text.starts_with('"');
@@ -19,13 +20,32 @@ std::string WithoutQuotes(const std::string& text) {
   return IsQuoted(text) ? text.substr(1, text.size() - 2) : text;
 }
 
+bool IsBitmap(const std::string& name) {
+  return IsQuoted(name) || name.size() > LongestNumberName;
+}
+
+/// A bitmap may stand alone on its line; it then has the numbers 0 0 0 4.
+bool IsPlainName(const Statement& statement, std::size_t first) {
+  const auto& lines = statement.ArgumentLines;
+  return IsBitmap(statement.Arguments[first]) &&
+         (first + 1 == lines.size() || lines[first + 1] != lines[first]);
+}
+
+VtpTextureEntry PlainEntry(const std::string& name) {
+  VtpTextureEntry entry;
+  entry.Name = WithoutQuotes(name);
+  entry.Quoted = true;
+  entry.U = UsualLastNumber;
+  return entry;
+}
+
 /// The entry whose name is argument `first`; `first` moves behind it.
 VtpTextureEntry ReadEntry(const Statement& statement, std::size_t& first, std::vector<ScmError>& errors) {
   VtpTextureEntry entry;
   const std::string& name = statement.Arguments[first];
   const std::size_t line = statement.ArgumentLines[first];
   entry.Name = WithoutQuotes(name);
-  entry.Quoted = IsQuoted(name) || name.size() > LongestNumberName;
+  entry.Quoted = IsBitmap(name);
   const auto number = [&](std::size_t place, NumberRange range) {
     return static_cast<std::uint8_t>(NumberArgument(statement, first + place, range, errors).value_or(0));
   };
@@ -53,6 +73,10 @@ std::vector<VtpTextureEntry> ReadTextureEntries(const Statement& statement, std:
   if (!count) return entries;
   std::size_t next = 1;
   while (next < statement.Arguments.size() && entries.size() < static_cast<std::size_t>(*count)) {
+    if (IsPlainName(statement, next)) {
+      entries.push_back(PlainEntry(statement.Arguments[next++]));
+      continue;
+    }
     if (statement.Arguments.size() - next < EntryArguments) {
       errors.push_back({statement.ArgumentLines[next],
                         "VTPTextureList: the texture " + statement.Arguments[next] + " wants four numbers"});

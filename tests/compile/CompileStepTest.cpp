@@ -92,6 +92,7 @@ TEST_F(CompileStepRun, AFailureOffersTheReport) {
   EXPECT_FALSE(CompileStep(rig.Context(), Request()));
   EXPECT_EQ(rig.dialogs.questions, std::vector{question});
   EXPECT_EQ(rig.tools.calls.size(), 1U) << "Cancel reads nothing";
+  EXPECT_FALSE(std::filesystem::exists(Work(".BGL"))) << "half a file is no output";
   EXPECT_FALSE(std::filesystem::exists(Copied()));
   EXPECT_TRUE(rig.report.Failed);
 

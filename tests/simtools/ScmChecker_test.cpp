@@ -2,9 +2,14 @@
 
 #include "Sources.h"
 #include "core/Text.h"
+#include "platform/Paths.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+#include <vector>
 
 namespace landsmith::simtools {
 
@@ -63,8 +68,7 @@ INSTANTIATE_TEST_SUITE_P(
 INSTANTIATE_TEST_SUITE_P(
     Ranges, ScmFaults,
     testing::Values(
-        FaultRow{"place beyond 14 bits", "5000 6000", "5000 16384", 16, "y is 16384, allowed is 0 to 16383"},
-        FaultRow{"place below 0", "5000 6000", "-1 6000", 16, "x is -1"},
+        FaultRow{"place beyond 32 bits", "5000 6000", "5000 2147483648", 16, "y is 2147483648, allowed is"},
         FaultRow{"step too far", "1022 -1022", "1022 -1023", 18, "the step in y is -1023"},
         FaultRow{"width of 0", "-1022 13", "-1022 0", 18, "the width is 0"},
         FaultRow{"width beyond a byte", "3 12 )", "3 256 )", 16, "the width is 256"},
@@ -132,6 +136,61 @@ TEST(ScmChecker, AcceptsWhatTheCompilersWriteWithEitherLineEnd) {
   EXPECT_TRUE(checked.Errors.empty());
   ASSERT_TRUE(checked.Vtp.has_value());
   EXPECT_EQ(checked.Vtp->Cells.size(), 1U);
+}
+
+TEST(ScmChecker, HoldsPlacesToWhatTheFileCanHold) {
+  struct Row {
+    const char* place;
+    std::int32_t x, y;
+    const char* told;  ///< nothing for a place that fits
+  };
+  const Row rows[] = {
+      {"0 16383", 0, 16383, ""},
+      {"-1 16384", 0, 16383, "-1 16384 is held to 0 16383"},
+      {"2147483647 -2147483648", 16383, 0, "2147483647 -2147483648 is held to 16383 0"},
+      {"5000 -7", 5000, 0, "5000 -7 is held to 5000 0"},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.place);
+    const CheckedSource checked = CheckScm(ParseScm(ReplaceAll(OneRoad, "5000 6000", row.place)));
+    EXPECT_TRUE(checked.Errors.empty());
+    ASSERT_TRUE(checked.Vtp.has_value());
+    const auto& points = checked.Vtp->Cells[0].Areas[0].Layers[0].Textures[0].Features[0].Points;
+    EXPECT_EQ(points[0], (VtpPoint{row.x, row.y, false, 3, 12}));
+    EXPECT_EQ(points[1], (VtpPoint{12, -7, true, 0, 0})) << "the strip's end keeps its shape";
+    ASSERT_EQ(checked.HeldPoints.size(), *row.told == '\0' ? 0U : 1U);
+    if (checked.HeldPoints.empty()) continue;
+    EXPECT_EQ(checked.HeldPoints[0].Line, 16U);
+    EXPECT_THAT(checked.HeldPoints[0].Reason, HasSubstr(row.told));
+  }
+}
+
+TEST(ScmChecker, TakesABitmapAloneOnItsLineAsATextureEntry) {
+  const std::string source =
+      ReplaceAll(OneRoad, "VTPTextureList( 1\n        153 0 0 0 4\n",
+                 "VTPTextureList( 4\n  road1.bmp\n  12345\n  153 0 0 0 4\n  \"a b.bmp\"\n");
+  const CheckedSource checked = CheckScm(ParseScm(source));
+  ASSERT_TRUE(checked.Errors.empty()) << checked.Errors[0].Reason;
+  ASSERT_TRUE(checked.Vtp.has_value());
+  const std::vector<VtpTextureEntry> expected{{"road1.bmp", true, 0, 0, 4, ""},
+                                              {"12345", true, 0, 0, 4, ""},
+                                              {"153", false, 0, 0, 4, ""},
+                                              {"a b.bmp", true, 0, 0, 4, ""}};
+  EXPECT_EQ(checked.Vtp->Textures, expected);
+}
+
+TEST(ScmChecker, AcceptsEveryGoldenSource) {
+  const std::filesystem::path cases = std::filesystem::path(LANDSMITH_SOURCE_DIR) / "tests/golden/vtp";
+  std::size_t seen = 0;
+  for (const auto& entry : std::filesystem::directory_iterator(cases)) {
+    if (!entry.is_directory()) continue;
+    ++seen;
+    const CheckedSource checked = CheckScm(ParseScm(ReadWholeFile(entry.path() / "expected.scm")));
+    for (const ScmError& error : checked.Errors)
+      ADD_FAILURE() << entry.path() << " line " << error.Line << ": " << error.Reason;
+    EXPECT_TRUE(checked.Vtp.has_value()) << entry.path();
+  }
+  EXPECT_GT(seen, 5U);
 }
 
 TEST(ScmChecker, ListsEveryFaultInTheOrderOfTheLines) {
