@@ -225,6 +225,14 @@ void ReadAll(ByteReader& in, std::vector<Record>& records, std::int32_t announce
     Fields(file, record);
 }
 
+/// A counter of class samples can only be a number of samples. The whole grid follows when it is above 0.
+void ReadSamples(ByteReader& in, ClassGrid& grid, std::int32_t count, std::string_view what) {
+  if (count < 0 || static_cast<std::size_t>(count) > ClassGrid::SampleCount)
+    in.Fail(std::to_string(count) + " " + std::string(what) + " announced, the grid has " +
+            std::to_string(ClassGrid::SampleCount));
+  if (count > 0) FieldReader(in).Samples(grid);
+}
+
 template <class Record>
 void WriteAll(FieldWriter& file, const std::vector<Record>& records) {
   for (const Record& record : records)
@@ -305,8 +313,8 @@ ProjectState ReadProject(std::string_view bytes, const std::string& file) {
   ReadAll(in, project.Objects, count.Objects, LeastObject, "objects");
   project.NoOfLands = count.Lands;
   project.NoOfWaters = count.Waters;
-  if (count.Lands > 0) fields.Samples(project.Lands);
-  if (count.Waters > 0) fields.Samples(project.Waters);
+  ReadSamples(in, project.Lands, count.Lands, "land samples");
+  ReadSamples(in, project.Waters, count.Waters, "water samples");
   return project;
 }
 
