@@ -131,15 +131,20 @@ void FieldReader::Points(std::vector<Point>& points) {
   const std::size_t count = m_in.CheckedCount(elements, PointSize, "points");
   const char* bytes = m_in.Bytes(count * PointSize).data();
   points.reserve(count);
-  for (std::size_t i = 0; i < count; ++i) {
-    Point& point = points.emplace_back();
-    std::int16_t selected = 0;
-    std::memcpy(&point.Lon, bytes, 8);
-    std::memcpy(&point.Lat, bytes + 8, 8);
-    std::memcpy(&Third(point), bytes + 16, 4);
-    std::memcpy(&selected, bytes + 20, 2);
-    point.Selected = selected != 0;
-    bytes += PointSize;
+  // A piece at a time, so that what is made is still in the processor's cache when it is filled.
+  constexpr std::size_t pieceLength = 256;
+  while (points.size() < count) {
+    const std::size_t done = points.size();
+    points.resize(std::min(count, done + pieceLength));
+    for (Point& point : std::span(points).subspan(done)) {
+      std::int16_t selected = 0;
+      std::memcpy(&point.Lon, bytes, 8);
+      std::memcpy(&point.Lat, bytes + 8, 8);
+      std::memcpy(&Third(point), bytes + 16, 4);
+      std::memcpy(&selected, bytes + 20, 2);
+      point.Selected = selected != 0;
+      bytes += PointSize;
+    }
   }
 }
 
