@@ -8,6 +8,7 @@
 #include <iostream>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace landsmith {
 
@@ -75,6 +76,11 @@ int RunBatch(int argc, char** argv) {
   DescribeCommands(app, chosen);
   try {
     app.parse(argc, argv);
+  } catch (const CLI::RequiredError& missing) {
+    const std::vector<std::string> unknown = app.remaining();
+    if (unknown.empty()) return app.exit(missing) == 0 ? ExitDone : ExitUsage;
+    std::cerr << "landsmith-batch: there is no command " << unknown.front() << '\n';
+    return ExitUsage;
   } catch (const CLI::ParseError& ended) {
     return app.exit(ended) == 0 ? ExitDone : ExitUsage;
   }

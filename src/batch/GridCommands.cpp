@@ -63,10 +63,15 @@ void Grid(BatchRun& run) {
   for (int number = 1; std::getline(run.in, line); ++number) {
     if (Trim(line).empty()) continue;
     const auto at = ParsePosition(line);
-    if (!at)
-      throw RuntimeError::At("reading positions", "standard input", "line " + std::to_string(number),
-                             "\"" + std::string(Trim(line)) + "\" is no latitude and longitude");
-    run.out << GridJson(*at);
+    const auto fail = [&](const std::string& found) {
+      throw RuntimeError::At("reading positions", "standard input", "line " + std::to_string(number), found);
+    };
+    if (!at) fail("\"" + std::string(Trim(line)) + "\" is no latitude and longitude");
+    try {
+      run.out << GridJson(*at);
+    } catch (const RuntimeError& overflow) {
+      fail(overflow.what());
+    }
   }
 }
 

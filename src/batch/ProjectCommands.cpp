@@ -6,13 +6,16 @@
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 #include "wiring/Importers.h"
+#include "wiring/ProjectStore.h"
 
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
 #include <array>
+#include <filesystem>
 #include <memory>
 #include <string>
+#include <system_error>
 
 namespace landsmith {
 
@@ -35,12 +38,14 @@ void RequireProjectExtension(BatchRun& run, std::string_view file) {
 /// The records as the file holds them: no folder is resolved, nothing is rebuilt.
 ProjectState ReadStored(BatchRun& run, std::string_view file) {
   if (HasExtension(file, ".LSX")) RefuseUnsupported(run, std::string(file) + ": a file of kind .LSX here");
-  const std::string bytes = ReadWholeFile(MapPath(file));
+  const std::filesystem::path path = MapPath(file);
+  std::error_code unreadable;
+  if (!std::filesystem::exists(path, unreadable)) throw RuntimeError(MissingProjectText(path));
+  const std::string bytes = ReadWholeFile(path);
   const ProjectFormat format = FormatOfProject(bytes);
   if (format == ProjectFormat::Current) return ReadProject(bytes, std::string(file));
-  throw RuntimeError::At(
-      "reading the project", std::string(file), "offset 0",
-      format == ProjectFormat::Unknown ? "this is no project file" : "the format is " + FormatName(format));
+  if (format == ProjectFormat::Unknown) throw RuntimeError(std::string(ForeignFileText));
+  RefuseUnsupported(run, std::string(file) + ": the format " + FormatName(format));
 }
 
 struct NewArguments {

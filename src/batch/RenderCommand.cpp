@@ -156,8 +156,8 @@ void Render(BatchRun& run, const RenderArguments& arguments) {
   Session session(run.folders, run.dialogs, tools);
   session.settings = run.settings;
   session.project = OpenForCommand(run, arguments.Project);
-  session.lands = ReadClassTable(run.folders.Tools() / "lands.txt", ClassKind::Land);
-  session.waters = ReadClassTable(run.folders.Tools() / "waters.txt", ClassKind::Water);
+  session.lands = ReadClassTable(MapPathIn(run.folders.Tools(), "lands.txt"), ClassKind::Land);
+  session.waters = ReadClassTable(MapPathIn(run.folders.Tools(), "waters.txt"), ClassKind::Water);
   SetView(session, arguments, options);
 
   PictureSurfaces surfaces(options.Size);

@@ -73,9 +73,9 @@ std::string Format(double degrees, CoordForm form, Letters letters) {
   if (form == CoordForm::DecimalDegrees) return FixedText(degrees, 7, 2);
   const char letter = degrees < 0 ? letters.negative : letters.positive;
   const double value = std::fabs(degrees);
-  const double whole = Floor(value);
+  const double whole = std::floor(value);  // in doubles: the text may hold any number
   const double minutes = (value - whole) * 60;
-  const double wholeMinutes = Floor(minutes);
+  const double wholeMinutes = std::floor(minutes);
   std::string text = FixedText(whole, 0);
   text.append(DegreeSign).append(" ").append(FixedText(wholeMinutes, 0, 2)).append("' ");
   text.append(FixedText((minutes - wholeMinutes) * 60, 4, 2)).append("'' ");

@@ -6,6 +6,7 @@
 #include <array>
 #include <cstring>
 #include <span>
+#include <type_traits>
 
 namespace landsmith {
 
@@ -55,7 +56,8 @@ private:
   ByteReader& m_in;
 };
 
-/// Puts fields behind each other. A flag is 16 bits wide, 0 or -1.
+/// Puts fields behind each other. A flag is 16 bits wide, 0 or -1. Numbers are gathered in a buffer that
+/// stays in the processor's cache, since projects are made of a great many small ones; `Flush` at the end.
 class FieldWriter {
 public:
   template <class Record>
@@ -69,23 +71,39 @@ public:
   }
   template <class Point>
   void Points(const std::vector<Point>& points);
+  void Flush() {
+    m_out.Bytes({m_gathered.data(), m_used});
+    m_used = 0;
+  }
   void Samples(const ClassGrid& grid) {
     const std::vector<std::uint8_t>& samples = grid.StoredSamples();
+    Flush();
     m_out.Bytes({reinterpret_cast<const char*>(samples.data()), samples.size()});
     if (samples.empty()) m_out.Bytes(std::string(ClassGrid::SampleCount, '\0'));
   }
 
 private:
-  void Put(bool value) { m_out.I16(value ? -1 : 0); }
-  void Put(std::uint8_t value) { m_out.U8(value); }
-  void Put(std::int16_t value) { m_out.I16(value); }
-  void Put(std::int32_t value) { m_out.I32(value); }
-  void Put(float value) { m_out.F32(value); }
-  void Put(double value) { m_out.F64(value); }
-  void Put(std::string_view value) { m_out.Str16(value); }
+  template <class Number>
+  requires std::is_arithmetic_v<Number>
+  void Put(Number value) { std::memcpy(Room(sizeof value), &value, sizeof value); }
+  void Put(bool value) { Put(static_cast<std::int16_t>(value ? -1 : 0)); }
+  void Put(const std::string& value) { Put(std::string_view(value)); }
+  void Put(std::string_view value) {
+    Flush();
+    m_out.Str16(value);
+  }
   void Put(const GeoBox& box) { (*this)(box.NLat, box.SLat, box.WLon, box.ELon); }
 
+  /// Where the next `size` bytes go.
+  char* Room(std::size_t size) {
+    if (m_gathered.size() - m_used < size) Flush();
+    m_used += size;
+    return m_gathered.data() + m_used - size;
+  }
+
   ByteWriter& m_out;
+  std::size_t m_used = 0;
+  std::array<char, 4096> m_gathered;
 };
 
 float& Third(LinePoint& point) {
@@ -110,28 +128,34 @@ void FieldReader::Points(std::vector<Point>& points) {
   if (dimensions != 1) m_in.Fail("an array of points with " + std::to_string(dimensions) + " dimensions");
   const std::int32_t elements = m_in.I32();
   m_in.I32();  // lower bound
-  points.resize(m_in.CheckedCount(elements, PointSize, "points"));
-  const char* bytes = m_in.Bytes(points.size() * PointSize).data();
-  for (Point& point : points) {
-    std::int16_t selected = 0;
-    std::memcpy(&point.Lon, bytes, 8);
-    std::memcpy(&point.Lat, bytes + 8, 8);
-    std::memcpy(&Third(point), bytes + 16, 4);
-    std::memcpy(&selected, bytes + 20, 2);
-    point.Selected = selected != 0;
-    bytes += PointSize;
+  const std::size_t count = m_in.CheckedCount(elements, PointSize, "points");
+  const char* bytes = m_in.Bytes(count * PointSize).data();
+  points.reserve(count);
+  // A piece at a time, so that what is made is still in the processor's cache when it is filled.
+  constexpr std::size_t pieceLength = 256;
+  while (points.size() < count) {
+    const std::size_t done = points.size();
+    points.resize(std::min(count, done + pieceLength));
+    for (Point& point : std::span(points).subspan(done)) {
+      std::int16_t selected = 0;
+      std::memcpy(&point.Lon, bytes, 8);
+      std::memcpy(&point.Lat, bytes + 8, 8);
+      std::memcpy(&Third(point), bytes + 16, 4);
+      std::memcpy(&selected, bytes + 20, 2);
+      point.Selected = selected != 0;
+      bytes += PointSize;
+    }
   }
 }
 
-/// Packs the run piece by piece, in a buffer that stays in the processor's cache.
 template <class Point>
 void FieldWriter::Points(const std::vector<Point>& points) {
-  constexpr std::size_t pieceLength = 256;
   (*this)(std::int16_t{1}, static_cast<std::int32_t>(points.size()), std::int32_t{1});
-  std::array<char, pieceLength * PointSize> packed;
   for (std::span<const Point> rest(points); !rest.empty();) {
-    const std::span<const Point> piece = rest.first(std::min(rest.size(), pieceLength));
-    char* bytes = packed.data();
+    if (m_gathered.size() - m_used < PointSize) Flush();
+    const std::span<const Point> piece =
+        rest.first(std::min(rest.size(), (m_gathered.size() - m_used) / PointSize));
+    char* bytes = Room(piece.size() * PointSize);
     for (const Point& point : piece) {
       const std::int16_t selected = point.Selected ? -1 : 0;
       std::memcpy(bytes, &point.Lon, 8);
@@ -140,7 +164,6 @@ void FieldWriter::Points(const std::vector<Point>& points) {
       std::memcpy(bytes + 20, &selected, 2);
       bytes += PointSize;
     }
-    m_out.Bytes({packed.data(), piece.size() * PointSize});
     rest = rest.subspan(piece.size());
   }
 }
@@ -220,9 +243,18 @@ template <class Record>
 void ReadAll(ByteReader& in, std::vector<Record>& records, std::int32_t announced, std::size_t leastSize,
              std::string_view what) {
   FieldReader file(in);
-  records.resize(in.CheckedCount(announced, leastSize, what));
-  for (Record& record : records)
-    Fields(file, record);
+  const std::size_t count = in.CheckedCount(announced, leastSize, what);
+  records.reserve(count);
+  for (std::size_t i = 0; i < count; ++i)
+    Fields(file, records.emplace_back());
+}
+
+/// A counter of class samples can only be a number of samples. The whole grid follows when it is above 0.
+void ReadSamples(ByteReader& in, ClassGrid& grid, std::int32_t count, std::string_view what) {
+  if (count < 0 || static_cast<std::size_t>(count) > ClassGrid::SampleCount)
+    in.Fail(std::to_string(count) + " " + std::string(what) + " announced, the grid has " +
+            std::to_string(ClassGrid::SampleCount));
+  if (count > 0) FieldReader(in).Samples(grid);
 }
 
 template <class Record>
@@ -305,8 +337,8 @@ ProjectState ReadProject(std::string_view bytes, const std::string& file) {
   ReadAll(in, project.Objects, count.Objects, LeastObject, "objects");
   project.NoOfLands = count.Lands;
   project.NoOfWaters = count.Waters;
-  if (count.Lands > 0) fields.Samples(project.Lands);
-  if (count.Waters > 0) fields.Samples(project.Waters);
+  ReadSamples(in, project.Lands, count.Lands, "land samples");
+  ReadSamples(in, project.Waters, count.Waters, "water samples");
   return project;
 }
 
@@ -332,6 +364,7 @@ std::string WriteProject(const ProjectState& project, std::string_view defaultFo
   WriteAll(fields, project.Objects);
   if (project.NoOfLands > 0) fields.Samples(project.Lands);
   if (project.NoOfWaters > 0) fields.Samples(project.Waters);
+  fields.Flush();
   return out.Take();
 }
 

@@ -75,7 +75,8 @@ struct AppSettings {
   std::array<std::string, 5> Title{"How to Make an Island ...", "How to Get Scasm Help ...",
                                    "How to Import Shape Files ...", "How to Calibrate a Map ...",
                                    "How to Make Photo Scenery ..."};
-  std::array<std::string, 5> Link{"island tutorial.pdf"};  ///< file in html/, or an address beginning "http"
+  /// Each a file in html/, or an address beginning "http".
+  std::array<std::string, 5> Link{"island tutorial.pdf", "http://www.scasm.de"};
   // RecentDirs
   std::string OpenDir, ImportDir, AppendDir, SurferDir, PolishDir, LWMDir, VTPDir, SaveDir, BmpDir;
 

@@ -73,7 +73,7 @@ private:
     // The flag of the format that tells inside from outside stands before the name, where it stands at all.
     if (rest.size() > 1 && (rest[0] == '0' || rest[0] == '1') && rest[1] == m_separator)
       rest.remove_prefix(2);
-    item.Name = FromWindows1252(Trim(rest));
+    item.Name = FromWindows1252(rest);
     return static_cast<std::size_t>(*points);
   }
 

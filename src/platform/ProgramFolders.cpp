@@ -14,6 +14,11 @@ namespace {
 
 constexpr std::string_view SettingsFile = "Landsmith.ini";
 
+/// The entry `name` of `folder` in the case that it has there, or as it would be made.
+std::filesystem::path In(const std::filesystem::path& folder, std::string_view name) {
+  return FindInFolder(folder, name).value_or(folder / name);
+}
+
 bool HoldsFolder(const std::filesystem::path& folder, std::string_view name) {
   const auto found = FindInFolder(folder, name);
   std::error_code ignored;
@@ -74,6 +79,26 @@ std::filesystem::path UserDataFolder() {
 }
 
 }  // namespace
+
+std::filesystem::path ProgramFolders::IniPath() const {
+  return In(AppPath, SettingsFile);
+}
+
+std::filesystem::path ProgramFolders::Tools() const {
+  return In(AppPath, "tools");
+}
+
+std::filesystem::path ProgramFolders::Work() const {
+  return In(Tools(), "work");
+}
+
+std::filesystem::path ProgramFolders::Bitmaps() const {
+  return In(Tools(), "bmps");
+}
+
+std::filesystem::path ProgramFolders::Html() const {
+  return In(AppPath, "html");
+}
 
 std::filesystem::path ProgramFolders::FSTexturePath() const {
   return MapPath(PathText(FSPath) + "\\SCENERY\\WORLD\\Texture");

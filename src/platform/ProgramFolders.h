@@ -14,11 +14,12 @@ struct ProgramFolders {
   std::filesystem::path FSPath;     ///< the simulator's folder; holds scenery.cfg
   bool SimulatorIsStandIn = false;  ///< FSPath is the minimal folder that the program ships
 
-  std::filesystem::path IniPath() const { return AppPath / "Landsmith.ini"; }
-  std::filesystem::path Tools() const { return AppPath / "tools"; }
-  std::filesystem::path Work() const { return AppPath / "tools" / "work"; }
-  std::filesystem::path Bitmaps() const { return AppPath / "tools" / "bmps"; }
-  std::filesystem::path Html() const { return AppPath / "html"; }
+  // Each in whatever case it is there: a program folder may come from a system that ignores case.
+  std::filesystem::path IniPath() const;
+  std::filesystem::path Tools() const;
+  std::filesystem::path Work() const;
+  std::filesystem::path Bitmaps() const;
+  std::filesystem::path Html() const;
   /// FSPath + "\SCENERY\WORLD\Texture".
   std::filesystem::path FSTexturePath() const;
 };

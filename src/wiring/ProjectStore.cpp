@@ -11,7 +11,7 @@
 namespace landsmith {
 namespace {
 
-void Refuse(Dialogs& dialogs, const std::string& text) {
+void Refuse(Dialogs& dialogs, std::string_view text) {
   dialogs.Message(MessageKind::Error, text);
 }
 
@@ -39,11 +39,15 @@ ProjectState ReadyProject(std::string_view bytes, const std::filesystem::path& p
 
 }  // namespace
 
+std::string MissingProjectText(const std::filesystem::path& path) {
+  return PathText(path) + "\n\ndoes not exist !";
+}
+
 std::optional<ProjectState> OpenProjectFile(const std::filesystem::path& path, const AppSettings& settings,
                                             Dialogs& dialogs) {
   std::error_code unreadable;
   if (!std::filesystem::exists(path, unreadable)) {
-    Refuse(dialogs, PathText(path) + "\n\ndoes not exist !");
+    Refuse(dialogs, MissingProjectText(path));
     return {};
   }
   try {
@@ -51,7 +55,7 @@ std::optional<ProjectState> OpenProjectFile(const std::filesystem::path& path, c
     const ProjectFormat format = FormatOfProject(bytes);
     if (format == ProjectFormat::Current) return ReadyProject(bytes, path, settings);
     if (format == ProjectFormat::Unknown)
-      Refuse(dialogs, "Not a Valid Landsmith File!");
+      Refuse(dialogs, ForeignFileText);
     else
       AskAboutOlderFile(path, format, dialogs);
   } catch (const RuntimeError& failure) {

@@ -8,8 +8,14 @@
 
 #include <filesystem>
 #include <optional>
+#include <string>
+#include <string_view>
 
 namespace landsmith {
+
+/// What the user is told when there is no file, and when it is none of ours.
+std::string MissingProjectText(const std::filesystem::path& path);
+inline constexpr std::string_view ForeignFileText = "Not a Valid Landsmith File!";
 
 /// Reads a project and makes it ready: folders resolved, working data rebuilt, ProjectFile set, ProjectOpen
 /// true, Dirty false. Nothing when the file is missing, is none of ours, is of an older version that is not

@@ -58,6 +58,7 @@ TEST(CoordText, Prints) {
   EXPECT_EQ(FormatLatText(-5.25, Dms), "5\u00B0 15' 00.0000'' S");
   EXPECT_EQ(FormatLonText(-170, Dms), "170\u00B0 00' 00.0000'' W");
   EXPECT_EQ(FormatLonText(0, Dms), "0\u00B0 00' 00.0000'' E");
+  EXPECT_EQ(FormatLatText(-4294967296.5, Dms), "4294967296\u00B0 30' 00.0000'' S");  // beyond 32 bits
   EXPECT_EQ(FormatLonText(-9.25, Decimal), "-09.2500000");
   EXPECT_EQ(FormatLatText(40.50833334, Decimal), "40.5083333");
 }

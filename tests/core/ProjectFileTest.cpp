@@ -191,8 +191,6 @@ TEST(ProjectFile, CutOffAnywhereIsAnError) {
 TEST(ProjectFile, RefusesCountsThatTheFileHasNoRoomFor) {
   for (std::size_t counter = 0; counter < 11; ++counter)
     for (const std::int32_t count : {0x7FFFFFFF, 1000000, -1}) {
-      const bool grid = counter == 2 || counter == 5;
-      if (grid && count < 0) continue;  // as good as 0
       std::string bytes = RecordsImage();
       std::memcpy(bytes.data() + FirstCounter + counter * 4, &count, 4);
       EXPECT_THROW(ReadProject(bytes, "X.LSP"), RuntimeError) << counter << " " << count;

