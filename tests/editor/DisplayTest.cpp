@@ -106,7 +106,7 @@ TEST_F(DisplayTest, AMillionPointsWithinOnePixelStillPaintSomething) {
 }
 
 TEST_F(DisplayTest, AtTheHighestZoomFarEndsDoNotOverflow) {
-  AddLine({{-30000, 1}, {30000, 1}});
+  AddLine({{-30000, 0}, {30000, 0}});
   session.project.Polys.emplace_back();
   session.project.Polys[0].Points = {{-170, -80, 0, false}, {170, -80, 0, false}, {0, 85, 0, false}};
   SetPathBounds(session.project.Polys[0]);
