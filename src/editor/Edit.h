@@ -1,11 +1,9 @@
-// The only way to a mutable project. The first access marks the project changed; the close asks for the
+// The only way to a mutable project. An access marks the project changed; the close asks for the
 // repaint. No edit can forget, double or misplace either.
 #pragma once
 
 #include "editor/Display.h"
 #include "editor/Session.h"
-
-#include <utility>
 
 namespace landsmith {
 
@@ -22,7 +20,8 @@ public:
   Edit& operator=(const Edit&) = delete;
 
   ProjectState& Project() {
-    if (!std::exchange(m_begun, true)) m_session.project.Dirty = true;
+    m_begun = true;
+    m_session.project.Dirty = true;  // each time: a save may have come between
     ++m_session.Revision;
     return m_session.project;
   }

@@ -38,6 +38,7 @@ bool Editor::Guard(const std::function<void()>& command) {
 void Editor::EndGesture() {
   // Out of the member first: what the end repaints no longer shows the drag.
   if (const auto gesture = std::exchange(m_gesture, nullptr)) gesture->Cancel();
+  m_dragByKey = false;
   m_host.StopTimer(TimerId::DragSettle);
   m_host.StopTimer(TimerId::DragRedraw);
 }

@@ -56,6 +56,8 @@ public:
   void SetGrid(int lod);               ///< mnuG0..mnuG19
   void ToggleShown(LayerKind kind);    ///< mnuVLines ...
   void ShowAll();                      ///< every kind shown
+  /// mnuVAll: shows the kind of the mode at hand alone, and nothing is selected; the next time all come back.
+  void ToggleViewAll();
   void ZoomAt(PixelOffset at, ZoomStep step);
   void CenterAt(PixelOffset at);
   void GoTo(LatLon center);
@@ -85,6 +87,7 @@ private:
   std::unique_ptr<Gesture> GestureOfPress(const PointerInput& in);
   void OpenPendingMenu();
   bool KeyState(const KeyInput& in, bool down);
+  void PressByKey(const KeyInput& in);
   void ShowStatus();
   void ShowCursor();
   void LeaveProject();
@@ -102,6 +105,7 @@ private:
   std::unique_ptr<Gesture> m_gesture;
   PointerInput m_lastPointer;
   int m_wheelRest = 0;
+  bool m_dragByKey = false;  ///< m_gesture ends when the key is released
 };
 
 }  // namespace landsmith

@@ -24,7 +24,7 @@ std::optional<std::filesystem::path> ChooseToOpen(Session& session, std::string_
   request.Title = title;
   request.Filter = std::string(filter) + "|All Files|*.*";
   if (!(session.settings.*slot).empty()) request.Folder = MapPath(session.settings.*slot);
-  const auto path = session.dialogs.ChooseFileToOpen(request);
+  auto path = session.dialogs.ChooseFileToOpen(request);
   if (path) {
     session.settings.*slot = PathText(path->parent_path());
     SaveRecentFolders(session.folders.IniPath(), session.settings);
@@ -100,6 +100,7 @@ void Editor::NewProject(bool atStart) {
     // The canvas stays dead until the user has confirmed the new project.
     if (atStart || !m_host.ShowProjectProperties()) return;
     m_session.project.ProjectOpen = true;
+    StoreView(m_session.view, m_session.project);  // the dialog may have moved the centre
     ProjectReplaced();
     m_session.view.MapView.clear();
   });
@@ -119,13 +120,16 @@ void Editor::OpenProjectCommand() {
 bool Editor::OpenProject(const std::filesystem::path& path) {
   bool opened = false;
   Guard([&] {
-    auto project = OpenProjectFile(path, m_session.settings, m_session.dialogs);
+    // The list of recent files and a later save must not depend on the folder of the day.
+    const std::filesystem::path file =
+        path.is_absolute() ? path : std::filesystem::absolute(path).lexically_normal();
+    auto project = OpenProjectFile(file, m_session.settings, m_session.dialogs);
     if (!project) return;
     LeaveProject();
     m_session.project = std::move(*project);
     ProjectReplaced();
     opened = true;
-    PushRecentFile(m_session.recent, PathText(path), m_session.folders.IniPath());
+    PushRecentFile(m_session.recent, PathText(file), m_session.folders.IniPath());
     m_host.RefreshUi();
   });
   return opened;
@@ -138,6 +142,7 @@ void Editor::OpenRecent(std::size_t slot) {
 
 bool Editor::Save() {
   if (!HasProject()) return false;
+  EndGesture();
   if (!MaySave()) return SaveAs();
   return Guard([&] {
     WriteProjectTo(m_session, MapPath(m_session.project.ProjectFile));
@@ -147,6 +152,7 @@ bool Editor::Save() {
 
 bool Editor::SaveAs() {
   if (!HasProject()) return false;
+  EndGesture();
   bool saved = false;
   Guard([&] {
     const auto path = ChooseToSave(m_session);

@@ -73,6 +73,7 @@ void Editor::Move(const PointerInput& in) {
 }
 
 void Editor::ReleaseGesture(const PointerInput& in) {
+  m_dragByKey = false;
   m_host.StopTimer(TimerId::DragSettle);
   m_host.StopTimer(TimerId::DragRedraw);
   // Out of the member first: what the end repaints no longer shows the drag.
@@ -149,6 +150,19 @@ bool Editor::KeyState(const KeyInput& in, bool down) {
   }
 }
 
+/// A left press where the mouse is. R waits for a real click, and a drag of the mouse goes on.
+void Editor::PressByKey(const KeyInput& in) {
+  if (m_gesture) return;
+  PointerInput press = m_lastPointer;
+  press.button = MouseButton::Left;
+  press.shift = in.shift;
+  press.ctrl = in.ctrl;
+  const bool nextIsRight = std::exchange(m_session.tool.NextClickIsRight, false);
+  Press(press);
+  m_session.tool.NextClickIsRight = nextIsRight;
+  m_dragByKey = m_gesture != nullptr;
+}
+
 void Editor::KeyDown(const KeyInput& in) {
   m_session.tool.InsertPoints = false;
   if (in.code == DeleteKey) {
@@ -157,11 +171,7 @@ void Editor::KeyDown(const KeyInput& in) {
     m_session.settings.PolyFill = !m_session.settings.PolyFill;
     m_display.DisplayAll();
   } else if (in.code == SpaceKey && m_session.tool.Mode == ModeId::Line) {
-    PointerInput press = m_lastPointer;
-    press.button = MouseButton::Left;
-    press.shift = in.shift;
-    press.ctrl = in.ctrl;
-    Press(press);
+    PressByKey(in);
   } else if (in.code == EscapeKey) {
     if (HasProject()) Guard([&] { m_mode->Key(in); });
   } else if (in.ctrl && in.code != CtrlKey) {
@@ -173,6 +183,10 @@ void Editor::KeyDown(const KeyInput& in) {
 
 void Editor::KeyUp(const KeyInput& in) {
   if (KeyState(in, false)) return;
+  if (in.code == SpaceKey && m_dragByKey) {
+    ReleaseGesture(m_lastPointer);
+    ShowCursor();
+  }
   if (in.code == InsertKey) m_session.tool.InsertPoints = true;
   if (in.code == 'R') m_session.tool.NextClickIsRight = true;
 }

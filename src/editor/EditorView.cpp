@@ -3,7 +3,43 @@
 #include "editor/Modes.h"
 #include "editor/SelectKinds.h"
 
+#include <optional>
+
 namespace landsmith {
+
+namespace {
+
+/// What a mode edits.
+std::optional<LayerKind> KindOf(ModeId mode) {
+  switch (mode) {
+    case ModeId::Map:
+      return LayerKind::Maps;
+    case ModeId::Mesh:
+      return LayerKind::Meshes;
+    case ModeId::Line:
+      return LayerKind::Lines;
+    case ModeId::Poly:
+      return LayerKind::Polys;
+    case ModeId::Object:
+      return LayerKind::Objects;
+    case ModeId::Exclude:
+      return LayerKind::Excludes;
+    case ModeId::Photo:
+      return LayerKind::Photos;
+    case ModeId::Land:
+      return LayerKind::Lands;
+    case ModeId::Water:
+      return LayerKind::Waters;
+    case ModeId::Fill:
+      return LayerKind::Fills;
+    case ModeId::Pointer:
+    case ModeId::Zoom:
+      return {};
+  }
+  return {};
+}
+
+}  // namespace
 
 void Editor::AfterViewChange() {
   m_display.DisplayAll();
@@ -66,7 +102,22 @@ void Editor::ToggleShown(LayerKind kind) {
 }
 
 void Editor::ShowAll() {
+  m_session.tool.ViewAllOn = false;
   m_session.view.ShowFlag.fill(true);
+  m_display.DisplayAll();
+  m_host.RefreshUi();
+}
+
+void Editor::ToggleViewAll() {
+  if (!HasProject()) return;
+  if (m_session.tool.ViewAllOn) return ShowAll();
+  EndGesture();
+  m_session.tool.ViewAllOn = true;
+  ClearSelection(m_session.project, m_session.tool);
+  auto& shown = m_session.view.ShowFlag;
+  shown.fill(false);
+  shown[static_cast<std::size_t>(LayerKind::Grid)] = true;  // no kind of item
+  if (const auto kind = KindOf(m_session.tool.Mode)) shown[static_cast<std::size_t>(*kind)] = true;
   m_display.DisplayAll();
   m_host.RefreshUi();
 }

@@ -83,15 +83,22 @@ void RubberBox::End(const PointerInput& in) {
   box.Add(a.lat, a.lon);
   box.Add(b.lat, b.lon);
   SelectInBox(session.project, session.view, box, session.tool);
-  if (session.tool.Selected.SelectionActive)
-    m_context.display.DisplayAll();
-  else
-    m_context.display.RedrawOverlay();
+  Repaint();
   m_context.host.RefreshUi();
 }
 
 void RubberBox::Cancel() {
-  m_context.display.RedrawOverlay();
+  Repaint();
+}
+
+/// Without the box. In a drawing mode the kind under edit lay in the base image meanwhile; left there, later
+/// clicks and drags would not show.
+void RubberBox::Repaint() {
+  const ToolState& tool = m_context.session.tool;
+  if (tool.Selected.SelectionActive || tool.Mode != ModeId::Pointer)
+    m_context.display.DisplayAll();
+  else
+    m_context.display.RedrawOverlay();
 }
 
 MoveDrag::MoveDrag(ModeContext& context, const PointerInput& in)

@@ -52,6 +52,8 @@ public:
   void Paint(Surface& surface) const override;
 
 private:
+  void Repaint();
+
   ModeContext& m_context;
   PixelPoint m_first, m_now;
 };

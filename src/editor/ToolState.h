@@ -16,6 +16,7 @@ struct ToolState {
   bool InsertPoints = false, DeletePoints = false, BreakLine = false, WidthDown = false, WidthUp = false;
   bool NextClickIsRight = false;
   bool SelectAllOn = false;  ///< the next Select All clears the selection
+  bool ViewAllOn = false;    ///< the kind of the mode at hand is alone on the canvas
   bool Dragging = false;     ///< a selection is being moved: painters then leave the drawn flags alone
 };
 

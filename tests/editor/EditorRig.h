@@ -9,6 +9,7 @@
 #include "support/ScriptedDialogs.h"
 #include "support/TempFolder.h"
 
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -32,6 +33,7 @@ public:
   bool acceptProperties = false;
   int propertiesShown = 0;
   bool hasTimers = false;
+  std::function<void()> inProperties;  ///< what the user does in the dialog
 
   void RefreshUi() override {}
   void SetStatus(const StatusPanels& panels) override { status = panels; }
@@ -40,6 +42,7 @@ public:
   void ShowLineProperties(std::optional<std::size_t> line) override { lineForms.push_back(line); }
   bool ShowProjectProperties() override {
     ++propertiesShown;
+    if (inProperties) inProperties();
     return acceptProperties;
   }
   int ToolbarHeight() const override { return 30; }

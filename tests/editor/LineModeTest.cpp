@@ -179,6 +179,30 @@ TEST_F(LineModeTest, TwoSelectedLinesOpenTheirCommonForm) {
   EXPECT_EQ(host.lineForms[0], std::nullopt);
 }
 
+TEST_F(LineModeTest, ADoubleClickIsTwoClicks) {
+  Click({10, 20}).Click({10, 20});
+  ASSERT_EQ(Lines().size(), 1U);
+  ASSERT_EQ(Lines()[0].Points.size(), 2U);
+  EXPECT_EQ(Lines()[0].Points[0], Lines()[0].Points[1]);
+  EXPECT_EQ(canvas.overlay.Of(RecordingSurface::Call::Kind::Spans).size(), 1U) << "its one pixel shows";
+}
+
+TEST_F(LineModeTest, TheSpaceBarClicksAndDragsAsLongAsItIsHeld) {
+  AddLine({{-100, 0}, {100, 0}});
+  MoveTo({0, 0}).Key(' ');
+  EXPECT_TRUE(editor.GestureAlive());
+  MoveTo({0, 10}).Key(' ');  // held down, the key repeats
+  MoveTo({0, 30});
+  editor.KeyUp({' ', false, false, false});
+  EXPECT_FALSE(editor.GestureAlive());
+  MoveTo({0, 90});
+  EXPECT_FLOAT_EQ(Place(0, 0).y, 30);
+  editor.KeyUp({'R', false, false, false});
+  MoveTo({0, 150}).Key(' ');
+  MoveTo({50, 150}).Key(' ');
+  EXPECT_EQ(Lines().size(), 2U) << "R waits for the mouse";
+}
+
 TEST_F(LineModeTest, CtrlDragsABoxAroundLines) {
   AddLine({{-100, 0}, {100, 0}});
   AddLine({{-100, 50}, {300, 50}});
@@ -186,6 +210,10 @@ TEST_F(LineModeTest, CtrlDragsABoxAroundLines) {
   Press({-120, -20}).MoveTo({150, 80}).Release();
   EXPECT_TRUE(Lines()[0].Selected);
   EXPECT_FALSE(Lines()[1].Selected) << "it reaches out of the box";
+  Press({-120, 80}).MoveTo({150, 120}).Release();
+  ctrl = false;
+  EXPECT_EQ(Selected(), 0);
+  EXPECT_TRUE(session.view.Pending(LayerKind::Lines)) << "what is drawn next must show";
 }
 
 }  // namespace

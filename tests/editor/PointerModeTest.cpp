@@ -221,6 +221,22 @@ TEST_F(PointerModeTest, HidingAKindClearsItsSelection) {
   EXPECT_TRUE(session.view.Shows(LayerKind::Lines));
 }
 
+TEST_F(PointerModeTest, ViewAllLeavesTheKindOfTheModeAlone) {
+  editor.SelectAll();
+  editor.ToggleViewAll();
+  EXPECT_EQ(Selected(), 0);
+  EXPECT_FALSE(session.view.Shows(LayerKind::Lines)) << "the pointer edits no kind";
+  EXPECT_TRUE(session.view.Shows(LayerKind::Grid));
+  editor.ToggleViewAll();
+  EXPECT_EQ(session.view.ShowFlag, ViewState().ShowFlag);
+  editor.ChooseMode(ModeId::Line);
+  editor.ToggleViewAll();
+  EXPECT_TRUE(session.view.Shows(LayerKind::Lines));
+  EXPECT_FALSE(session.view.Shows(LayerKind::Polys));
+  editor.ShowAll();
+  EXPECT_FALSE(session.tool.ViewAllOn);
+}
+
 TEST_F(PointerModeTest, SelectAllNeverTakesMapsAndToggles) {
   session.project.Maps.resize(1);
   session.project.Fills.resize(2);

@@ -40,6 +40,8 @@ TEST_F(LinesDialog, WidthTextsOutOfLimitsChangeNothing) {
       {"cmdWidth", "", "1", "1", "Check Width!"},
       {"cmdWidth", "256", "1", "1", "Maximum Line Width is 255 meters!"},
       {"cmdWidth", "-1", "1", "1", "Minimum Line Width is 0 meters!"},
+      {"cmdWidth", "40000", "1", "1", "Maximum Line Width is 255 meters!"},  // beyond what 16 bits hold
+      {"cmdWidth", "-1e30", "1", "1", "Minimum Line Width is 0 meters!"},
       {"cmdWidth", "wide", "1", "1", ""},
       {"cmdWidth12", "1", "300", "", "Check Width!"},
       {"cmdWidth12", "1", "-1", "300", "Maximum Line Width is 255 meters!"},

@@ -131,6 +131,25 @@ TEST_F(MainWindow, KindsAreHiddenAndShown) {
   EXPECT_TRUE(rig.Action("mnuVLines").isChecked());
 }
 
+TEST_F(MainWindow, ShowAllLeavesTheKindOfTheModeAloneAndBringsTheOthersBack) {
+  rig.ShowProject("Line");
+  EXPECT_TRUE(rig.Action("mnuVAll").isChecked());
+  rig.Action("mnuVAll").trigger();
+  EXPECT_FALSE(rig.Action("mnuVAll").isChecked());
+  EXPECT_TRUE(rig.Action("mnuVLines").isChecked());
+  EXPECT_FALSE(rig.Action("mnuVObjects").isChecked());
+  EXPECT_FALSE(rig.Action("mnuVObjects").isEnabled());
+  rig.Button("Pointer").click();
+  EXPECT_TRUE(rig.Action("mnuSLines").isEnabled());
+  EXPECT_FALSE(rig.Action("mnuSObjects").isEnabled());
+  EXPECT_FALSE(rig.Action("mnuSAll").isEnabled());
+  EXPECT_FALSE(rig.Action("mnuESelectAll").isEnabled());
+  rig.Action("mnuVAll").trigger();
+  for (const char* name : {"mnuVObjects", "mnuSObjects", "mnuSAll", "mnuESelectAll"})
+    EXPECT_TRUE(rig.Action(name).isEnabled()) << name;
+  EXPECT_TRUE(rig.Action("mnuVObjects").isChecked());
+}
+
 TEST_F(MainWindow, HoveringTellsThePlace) {
   rig.ShowProject();
   // The view's centre is 40 north, 10 west; the canvas may be one pixel wider than even.

@@ -114,6 +114,23 @@ TEST_F(PreferencesDialog, ACentreThatCannotBeReadIsIgnoredAndAGoodOneMovesTheVie
   EXPECT_EQ(rig.session.view.LatDispCenter, -20.5);
 }
 
+TEST_F(PreferencesDialog, AChangedGridLimitHoldsInTheOpenProjectToo) {
+  ProjectState& project = rig.session.project;
+  project.ProjectOpen = true;
+  project.ClassGridVIEW = true;
+  Press(dialog, "cmdOK");
+  EXPECT_TRUE(project.ClassGridVIEW) << "the project's own choice stays while the box is left alone";
+  frmPreferences again(rig.session, editor, nullptr);
+  Press(again, "ckClassGridVIEW");
+  Press(again, "cmdOK");
+  EXPECT_TRUE(project.ClassGridVIEW);
+  frmPreferences last(rig.session, editor, nullptr);
+  Press(last, "ckClassGridVIEW");
+  Press(last, "cmdOK");
+  EXPECT_FALSE(project.ClassGridVIEW);
+  EXPECT_FALSE(rig.session.settings.ClassGridVIEW);
+}
+
 TEST_F(PreferencesDialog, ATextThatIsNoNumberIsNamedAndNothingIsStored) {
   Press(dialog, "ckAskDelete");
   Type(dialog, "txtPhotoRange", "far");

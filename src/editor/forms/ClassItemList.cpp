@@ -2,6 +2,7 @@
 
 #include "core/Color.h"
 #include "forms/ColorSwatch.h"
+#include "forms/QtText.h"
 #include "raster/ClassTable.h"
 
 #include <QListWidget>
@@ -100,7 +101,7 @@ void ClassItemList::ShowAll(int current) {
     const QSignalBlocker quiet(m_controls.list);
     m_controls.list->clear();
     for (const ClassItemRec& item : m_items) {
-      auto* entry = new QListWidgetItem(QString::fromStdString(item.Text), m_controls.list);
+      auto* entry = new QListWidgetItem(ToQString(item.Text), m_controls.list);
       QPixmap mark(16, 16);
       mark.fill(QColor(item.R, item.G, item.B));
       QIcon icon(mark);

@@ -1,5 +1,6 @@
 #include "forms/FolderButton.h"
 
+#include "forms/QtText.h"
 #include "platform/Paths.h"
 
 #include <QLineEdit>
@@ -10,7 +11,7 @@ namespace landsmith {
 void ConnectFolderButton(Dialogs& dialogs, QPushButton* button, QLineEdit* box) {
   QObject::connect(button, &QPushButton::clicked, box, [&dialogs, box] {
     if (const auto folder = dialogs.ChooseFolder(MapPath(box->text().toStdString())))
-      box->setText(QString::fromStdString(PathText(*folder)));
+      box->setText(PathToQString(*folder));
   });
 }
 

@@ -2,6 +2,7 @@
 
 #include "core/Color.h"
 #include "core/Text.h"
+#include "forms/QtText.h"
 #include "forms/frmNamesT.h"
 #include "forms/frmTerrain.h"
 #include "ui_frmLinesP.h"
@@ -73,25 +74,24 @@ void LineTypeFields::ShowVtp(const std::string& type, std::int32_t color) {
   const LineType decoded = DecodeLineType(type);
   const auto* vtp = std::get_if<VtpLine>(&decoded);
   const std::string texture = vtp ? std::string(Trim(vtp->Texture)) : std::string();
-  m_ui.txtLayer->setText(QString::fromStdString(vtp ? vtp->Layer : ""));
+  m_ui.txtLayer->setText(ToQString(vtp ? vtp->Layer : ""));
   const bool named = vtp && !IsNumericTexture(texture);
   m_ui.optNameTex->setChecked(named);
   m_ui.optAptTex->setChecked(!named);
-  m_ui.txtNameTex->setText(named ? QString::fromStdString(texture) : QString());
+  m_ui.txtNameTex->setText(named ? ToQString(texture) : QString());
   m_ui.txtNameTex->setCursorPosition(0);
   if (vtp && !named) {
     const std::size_t found = FindTexture(catalog, texture);
     if (found < catalog.size()) m_session.currentLineTexture = found;
     m_assembledText = texture;
-    m_ui.txtAptTex->setText(found < catalog.size() ? QString::fromStdString(catalog[found].Title)
-                                                   : QString::fromStdString(texture));
+    m_ui.txtAptTex->setText(found < catalog.size() ? ToQString(catalog[found].Title) : ToQString(texture));
     m_ui.lbTex->SetColor(color);
     return;
   }
   if (m_session.currentLineTexture >= catalog.size()) return;
   const TextureItem& item = catalog[m_session.currentLineTexture];
   m_assembledText = TextureText(item);
-  m_ui.txtAptTex->setText(QString::fromStdString(item.Title));
+  m_ui.txtAptTex->setText(ToQString(item.Title));
   m_ui.lbTex->SetColor(ColorOf(item));
 }
 
@@ -100,7 +100,7 @@ void LineTypeFields::ChooseAssembled() {
   if (terrain.exec() != QDialog::Accepted) return;
   const TextureItem& item = m_session.lineTextures[m_session.currentLineTexture];
   m_assembledText = TextureText(item);
-  m_ui.txtAptTex->setText(QString::fromStdString(item.Title));
+  m_ui.txtAptTex->setText(ToQString(item.Title));
   m_ui.lbTex->SetColor(ColorOf(item));
   m_ui.optAptTex->setChecked(true);
 }
@@ -108,7 +108,7 @@ void LineTypeFields::ChooseAssembled() {
 void LineTypeFields::ChooseNamed() {
   frmNamesT names(m_session, TextureKind::Line, m_ui.lbColor->Color(), m_dialog);
   if (names.exec() != QDialog::Accepted) return;
-  m_ui.txtNameTex->setText(QString::fromStdString(names.TextureName()));
+  m_ui.txtNameTex->setText(ToQString(names.TextureName()));
   m_ui.txtNameTex->setCursorPosition(0);
   m_ui.lbColor->SetColor(names.Color());
   m_ui.optNameTex->setChecked(true);

@@ -1,5 +1,6 @@
 #include "forms/PictureCache.h"
 
+#include "forms/QtText.h"
 #include "platform/Paths.h"
 
 #include <QImageReader>
@@ -15,7 +16,7 @@ constexpr int MaxPictureMegabytes = 2048;
 
 QImage Decode(const std::filesystem::path& file) {
   QImageReader::setAllocationLimit(MaxPictureMegabytes);
-  QImageReader reader(QString::fromStdString(PathText(file)));
+  QImageReader reader(PathToQString(file));
   reader.setDecideFormatFromContent(true);
   const QImage picture = reader.read();
   if (picture.isNull()) return {};

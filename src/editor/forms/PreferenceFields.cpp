@@ -2,6 +2,7 @@
 
 #include "core/Numbers.h"
 #include "forms/ColorSwatch.h"
+#include "forms/QtText.h"
 
 #include <QCheckBox>
 #include <QLineEdit>
@@ -186,13 +187,12 @@ void ShowPreferenceFields(QWidget& dialog, const AppSettings& settings) {
   for (const ColorField& field : Colors)
     Find<ColorSwatch>(dialog, field.Control)->SetColor(settings.*field.Setting);
   for (const TextField& field : Texts)
-    Find<QLineEdit>(dialog, field.Control)->setText(QString::fromStdString(settings.*field.Setting));
+    Find<QLineEdit>(dialog, field.Control)->setText(ToQString(settings.*field.Setting));
   for (const NumberField& field : Numbers)
-    Find<QLineEdit>(dialog, field.Control)
-        ->setText(QString::fromStdString(NumberAsText(settings, field.Setting)));
+    Find<QLineEdit>(dialog, field.Control)->setText(ToQString(NumberAsText(settings, field.Setting)));
   for (std::size_t i = 0; i < settings.Title.size(); ++i) {
-    FindTutorial(dialog, "Title", i)->setText(QString::fromStdString(settings.Title[i]));
-    FindTutorial(dialog, "Link", i)->setText(QString::fromStdString(settings.Link[i]));
+    FindTutorial(dialog, "Title", i)->setText(ToQString(settings.Title[i]));
+    FindTutorial(dialog, "Link", i)->setText(ToQString(settings.Link[i]));
   }
 }
 

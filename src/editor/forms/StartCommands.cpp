@@ -47,7 +47,7 @@ void frmStart::BindEditMenu() {
 
 void frmStart::BindViewMenu() {
   Bind("mnuVToolbar", [this] { FitToolbar(); });
-  Bind("mnuVAll", [this] { m_editor->ShowAll(); });
+  Bind("mnuVAll", [this] { m_editor->ToggleViewAll(); });
   for (const KindRow& row : KindTable)
     Bind((std::string("mnuV") + row.key).c_str(), [this, kind = row.kind] { m_editor->ToggleShown(kind); });
   for (const int level : GridLevels)

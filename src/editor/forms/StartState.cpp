@@ -59,15 +59,14 @@ void frmStart::RefreshEditMenu() {
 void frmStart::RefreshViewMenu() {
   const bool open = m_editor->HasProject();
   const ViewState& view = m_session.view;
-  bool all = true;
   for (const KindRow& row : KindTable) {
     QAction& item = Action(QStringLiteral("mnuV") + QLatin1String(row.key));
-    item.setEnabled(open);
+    // What Show All has hidden comes back through Show All.
+    item.setEnabled(open && (view.Shows(row.kind) || !m_session.tool.ViewAllOn));
     item.setChecked(view.Shows(row.kind));
-    all = all && view.Shows(row.kind);
   }
   m_ui->mnuVAll->setEnabled(open);
-  m_ui->mnuVAll->setChecked(all);
+  m_ui->mnuVAll->setChecked(!m_session.tool.ViewAllOn);
   m_ui->mnuGrid->setEnabled(open);
   for (const int level : GridLevels)
     Action(QStringLiteral("mnuG%1").arg(level)).setChecked(view.GridLod == level);
@@ -88,7 +87,7 @@ void frmStart::RefreshSelectMenu() {
     if (nothing) item.setChecked(false);
   }
   for (QAction* all : {m_ui->mnuSAll, m_ui->mnuESelectAll}) {
-    all->setEnabled(open && anyKind);
+    all->setEnabled(open && anyKind && !m_session.tool.ViewAllOn);
     all->setChecked(m_session.tool.SelectAllOn);
   }
 }

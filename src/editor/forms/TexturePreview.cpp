@@ -1,6 +1,7 @@
 #include "forms/TexturePreview.h"
 
 #include "core/Text.h"
+#include "forms/QtText.h"
 #include "platform/Paths.h"
 
 #include <system_error>
@@ -13,7 +14,7 @@ constexpr std::string_view NoPicture = "na.bmp";
 constexpr std::string_view ConvertCommand = "imagetool.exe -nogui -batch -e bmp -nomip bmps\\temp.bmp";
 
 QPixmap LoadPixmap(const std::filesystem::path& file) {
-  return QPixmap(QString::fromStdString(PathText(file)));
+  return QPixmap(PathToQString(file));
 }
 
 }  // namespace

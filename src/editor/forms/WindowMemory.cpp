@@ -4,6 +4,7 @@
 #include "platform/RuntimeError.h"
 
 #include <QMainWindow>
+#include <QScreen>
 
 namespace landsmith {
 
@@ -14,6 +15,9 @@ const char* const Section = "Window";
 const char* const GeometryKey = "Geometry";
 const char* const StateKey = "State";
 
+/// What the desktop adds around a window.
+const QSize FrameRoom(8, 40);
+
 QByteArray ReadBytes(const std::filesystem::path& file, const char* key) {
   return QByteArray::fromBase64(QByteArray::fromStdString(ReadIniKey(file, Section, key)));
 }
@@ -22,7 +26,10 @@ QByteArray ReadBytes(const std::filesystem::path& file, const char* key) {
 
 void RestoreWindow(QMainWindow& window, const std::filesystem::path& appPath) {
   const std::filesystem::path file = appPath / FileName;
-  if (!std::filesystem::exists(file)) return;
+  if (!std::filesystem::exists(file)) {
+    window.resize(window.size().boundedTo(window.screen()->availableSize() - FrameRoom));
+    return;
+  }
   window.restoreGeometry(ReadBytes(file, GeometryKey));
   window.restoreState(ReadBytes(file, StateKey));
 }

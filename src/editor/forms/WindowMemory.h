@@ -7,7 +7,8 @@ class QMainWindow;
 
 namespace landsmith {
 
-/// Nothing happens when there is no file yet or it holds what no window wrote.
+/// Without a file the window keeps its size as far as the screen has room for it. A file that no window wrote
+/// changes nothing.
 void RestoreWindow(QMainWindow& window, const std::filesystem::path& appPath);
 /// A folder that cannot be written loses the memory and nothing else.
 void RememberWindow(const QMainWindow& window, const std::filesystem::path& appPath);

@@ -1,6 +1,7 @@
 #include "forms/frmBGL.h"
 
 #include "forms/FormGuard.h"
+#include "forms/QtText.h"
 #include "forms/SourceExcerpt.h"
 #include "platform/Paths.h"
 #include "ui_frmBGL.h"
@@ -23,13 +24,9 @@ constexpr std::size_t ShownBytes = 1'000'000;
 constexpr int FullScale = 1000;
 constexpr int MillisecondsBetweenEvents = 30;
 
-QString ToText(std::string_view utf8) {
-  return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
 template <class Control>
 Control* FindControl(const QWidget& dialog, std::string_view name) {
-  return dialog.findChild<Control*>(ToText(name));
+  return dialog.findChild<Control*>(ToQString(name));
 }
 
 }  // namespace
@@ -142,7 +139,7 @@ void frmBGL::RunWanted(const std::vector<std::string_view>& wanted, CompileRepor
                                options,           report};
   std::size_t started = 0;
   RunSteps(m_steps, wanted, context, [&](const StepInfo& step) {
-    m_ui->lbStep->setText(tr("%1 (%2 of %3)").arg(ToText(step.Caption)).arg(++started).arg(wanted.size()));
+    m_ui->lbStep->setText(tr("%1 (%2 of %3)").arg(ToQString(step.Caption)).arg(++started).arg(wanted.size()));
     m_sinceEvents.invalidate();  // each step's name is seen
     Wait();
   });
@@ -156,7 +153,7 @@ void frmBGL::StartSimulator() {
 
 // Nothing done yet shows as a busy bar: the first compiler may take all the time there is.
 bool frmBGL::Step(double fraction, std::string_view phrase) {
-  m_ui->lbStep->setText(ToText(phrase));
+  m_ui->lbStep->setText(ToQString(phrase));
   m_ui->barProgress->setMaximum(fraction > 0 ? FullScale : 0);
   m_ui->barProgress->setValue(static_cast<int>(std::lround(std::clamp(fraction, 0.0, 1.0) * FullScale)));
   return Wait();
@@ -184,7 +181,7 @@ void frmBGL::ShowReport(const CompileReport& report) {
   m_ui->txtSource->clear();
   m_ui->lbSource->clear();
   for (const std::filesystem::path& file : m_written)
-    m_ui->lstFiles->addItem(QString::fromStdString(PathText(file)));
+    m_ui->lstFiles->addItem(PathToQString(file));
   QString result =
       m_written.empty() ? tr("No file was written.") : tr("Files written: %1.").arg(m_written.size());
   if (report.Failed) result += ' ' + tr("A step failed.");
@@ -201,19 +198,19 @@ void frmBGL::ShowReport(const CompileReport& report) {
 
 void frmBGL::ShowSource(const std::filesystem::path& file) {
   m_ui->txtSource->clear();
-  m_ui->lbSource->setText(QString::fromStdString(PathText(file.filename())));
+  m_ui->lbSource->setText(PathToQString(file.filename()));
   RunGuarded(m_session.dialogs, [&] {
     const SourceExcerpt excerpt = ReadSourceExcerpt(file, ShownBytes);
     if (excerpt.Text.find('\0') != std::string::npos) {
-      m_ui->lbSource->setText(tr("%1 is not a text.").arg(QString::fromStdString(PathText(file.filename()))));
+      m_ui->lbSource->setText(tr("%1 is not a text.").arg(PathToQString(file.filename())));
       return;
     }
-    m_ui->txtSource->setPlainText(QString::fromStdString(excerpt.Text));
+    m_ui->txtSource->setPlainText(ToQString(excerpt.Text));
     if (excerpt.IsWhole) return;
     const QLocale locale = QLocale::c();
     m_ui->lbSource->setText(
         tr("%1: the first %2 of %3 are shown.")
-            .arg(QString::fromStdString(PathText(file.filename())),
+            .arg(PathToQString(file.filename()),
                  locale.formattedDataSize(static_cast<qint64>(ShownBytes), 1, QLocale::DataSizeSIFormat),
                  locale.formattedDataSize(static_cast<qint64>(excerpt.FileSize), 1,
                                           QLocale::DataSizeSIFormat)));

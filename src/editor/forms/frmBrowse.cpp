@@ -1,5 +1,6 @@
 #include "forms/frmBrowse.h"
 
+#include "forms/QtText.h"
 #include "platform/Paths.h"
 #include "ui_frmBrowse.h"
 
@@ -57,7 +58,7 @@ frmBrowse::frmBrowse(const std::filesystem::path& start, QWidget* parent)
   connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmBrowse::accept);
 
   const std::filesystem::path nearest = NearestFolder(start);
-  GoTo(nearest.empty() ? QDir::homePath() : QString::fromStdString(PathText(nearest)));
+  GoTo(nearest.empty() ? QDir::homePath() : PathToQString(nearest));
 }
 
 frmBrowse::~frmBrowse() = default;
@@ -89,7 +90,7 @@ void frmBrowse::TakeTypedText() {
 }
 
 void frmBrowse::MakeFolder() {
-  const QModelIndex parent = m_model->index(QString::fromStdString(PathText(Folder())));
+  const QModelIndex parent = m_model->index(PathToQString(Folder()));
   const QString name = tr("New folder");
   QModelIndex made = m_model->mkdir(parent, name);
   for (int number = 2; !made.isValid() && number < 100; ++number)

@@ -4,6 +4,7 @@
 #include "editor/Edit.h"
 #include "forms/FormGuard.h"
 #include "forms/LineWidths.h"
+#include "forms/QtText.h"
 #include "ui_frmLinesP.h"
 #include "vector/LineJoin.h"
 
@@ -52,7 +53,7 @@ void frmLinesP::ShowOne(std::size_t line) {
   m_line = line;
   SetMode(Mode::One);
   const LineRec& record = m_session.project.Lines.at(line);
-  m_ui->txtName->setText(QString::fromStdString(record.Name));
+  m_ui->txtName->setText(ToQString(record.Name));
   m_type->Show(record.Type, record.Color);
   if (!record.Points.empty())
     ShowWidths(MeanWidth(record), record.Points.front().Wid, record.Points.back().Wid);
@@ -89,9 +90,9 @@ void frmLinesP::ShowDefaults(LineDefaults& defaults, const QString& mode) {
 }
 
 void frmLinesP::ShowWidths(float mean, float first, float last) {
-  m_ui->txtWidth->setText(QString::fromStdString(NumberText(mean)));
-  m_ui->txtWidth1->setText(QString::fromStdString(NumberText(first)));
-  m_ui->txtWidth2->setText(QString::fromStdString(NumberText(last)));
+  m_ui->txtWidth->setText(ToQString(NumberText(mean)));
+  m_ui->txtWidth1->setText(ToQString(NumberText(first)));
+  m_ui->txtWidth2->setText(ToQString(NumberText(last)));
 }
 
 void frmLinesP::ShowOrder() {
@@ -144,7 +145,7 @@ void frmLinesP::ChangeProgressiveWidth() {
     for (const std::size_t line : Lines())
       SetLineWidths(edit.Project().Lines[line], widths->first, widths->second);
   }
-  m_ui->txtWidth->setText(QString::fromStdString(NumberText((widths->first + widths->second) / 2)));
+  m_ui->txtWidth->setText(ToQString(NumberText((widths->first + widths->second) / 2)));
 }
 
 void frmLinesP::ChangeOrder() {

@@ -2,6 +2,7 @@
 
 #include "core/Text.h"
 #include "forms/FormGuard.h"
+#include "forms/QtText.h"
 #include "platform/Paths.h"
 #include "ui_frmNamesT.h"
 
@@ -81,10 +82,10 @@ void frmNamesT::ConnectControls() {
 
 void frmNamesT::ListFolder(const std::filesystem::path& folder) {
   m_folder = folder;
-  m_ui->txtFolder->setText(QString::fromStdString(PathText(folder)));
+  m_ui->txtFolder->setText(PathToQString(folder));
   m_ui->filList->clear();
   for (const std::string& name : BitmapNames(folder))
-    m_ui->filList->addItem(QString::fromStdString(name));
+    m_ui->filList->addItem(ToQString(name));
 }
 
 void frmNamesT::TakeFileName() {
@@ -125,7 +126,7 @@ std::int32_t frmNamesT::Color() const {
 }
 
 void frmNamesT::ShowTextureName() {
-  m_ui->txtText->setText(QString::fromStdString(TextureName()));
+  m_ui->txtText->setText(ToQString(TextureName()));
   m_ui->txtText->setCursorPosition(0);
 }
 

@@ -5,6 +5,7 @@
 #include "forms/FolderButton.h"
 #include "forms/FormGuard.h"
 #include "forms/PreferenceFields.h"
+#include "forms/QtText.h"
 #include "ui_frmPreferences.h"
 
 #include <algorithm>
@@ -71,13 +72,12 @@ void frmPreferences::ShowSettings() {
   ShowPreferenceFields(*this, settings);
   m_ui->optDecimal->setChecked(settings.DecimalDegrees);
   m_ui->optDMS->setChecked(!settings.DecimalDegrees);
-  m_shownLat = QString::fromStdString(FormatLatText(settings.LatLandCenter, settings.Form()));
-  m_shownLon = QString::fromStdString(FormatLonText(settings.LonLandCenter, settings.Form()));
+  m_shownLat = ToQString(FormatLatText(settings.LatLandCenter, settings.Form()));
+  m_shownLon = ToQString(FormatLonText(settings.LonLandCenter, settings.Form()));
   m_ui->txtLat->setText(m_shownLat);
   m_ui->txtLon->setText(m_shownLon);
-  m_ui->txtBLNSeparator->setText(settings.BLNSeparator == "\t"
-                                     ? QString::fromUtf8(TabWord.data())
-                                     : QString::fromStdString(settings.BLNSeparator));
+  m_ui->txtBLNSeparator->setText(settings.BLNSeparator == "\t" ? QString::fromUtf8(TabWord.data())
+                                                               : ToQString(settings.BLNSeparator));
   const auto show = [](QSlider* slider, int value) {
     slider->setRange(std::min(slider->minimum(), value), std::max(slider->maximum(), value));
     slider->setValue(value);
@@ -128,8 +128,11 @@ void frmPreferences::accept() {
   AppSettings settings = m_session.settings;
   if (!ReadSettings(settings)) return;
   const bool centerChanged = ReadCenter(settings);
+  const bool gridChanged = settings.ClassGridVIEW != m_session.settings.ClassGridVIEW;
   m_session.settings = settings;
   const bool stored = RunGuarded(m_session.dialogs, [&] {
+    // A project keeps its own choice; who changes it here wants to see it in the open one too.
+    if (gridChanged && m_editor.HasProject()) m_editor.SetClassGridView(settings.ClassGridVIEW);
     m_editor.SettingsChanged(centerChanged);
     SaveSettings(m_session.folders.IniPath(), m_session.settings);
   });

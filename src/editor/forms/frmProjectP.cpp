@@ -7,6 +7,7 @@
 #include "forms/FolderButton.h"
 #include "forms/FormGuard.h"
 #include "forms/PhotoOptions.h"
+#include "forms/QtText.h"
 #include "ui_frmProjectP.h"
 
 namespace landsmith {
@@ -28,11 +29,11 @@ frmProjectP::~frmProjectP() = default;
 void frmProjectP::ShowProject() {
   const ProjectState& project = m_session.project;
   const CoordForm form = m_session.settings.Form();
-  m_ui->txtName->setText(QString::fromStdString(project.Name));
-  m_ui->txtBGL1Folder->setText(QString::fromStdString(project.BGL1ProjectFolder));
-  m_ui->txtBGL2Folder->setText(QString::fromStdString(project.BGL2ProjectFolder));
-  m_shownLat = QString::fromStdString(FormatLatText(project.LatLandCenter, form));
-  m_shownLon = QString::fromStdString(FormatLonText(project.LonLandCenter, form));
+  m_ui->txtName->setText(ToQString(project.Name));
+  m_ui->txtBGL1Folder->setText(ToQString(project.BGL1ProjectFolder));
+  m_ui->txtBGL2Folder->setText(ToQString(project.BGL2ProjectFolder));
+  m_shownLat = ToQString(FormatLatText(project.LatLandCenter, form));
+  m_shownLon = ToQString(FormatLonText(project.LonLandCenter, form));
   m_ui->txtLat->setText(m_shownLat);
   m_ui->txtLon->setText(m_shownLon);
   m_ui->ckClassGridVIEW->setChecked(project.ClassGridVIEW);

@@ -1,6 +1,7 @@
 #include "forms/frmTerrain.h"
 
 #include "core/Color.h"
+#include "forms/QtText.h"
 #include "ui_frmTerrain.h"
 
 namespace landsmith {
@@ -14,7 +15,7 @@ frmTerrain::frmTerrain(Session& session, TextureKind kind, QWidget* parent)
   m_ui->setupUi(this);
   if (kind == TextureKind::Poly) setWindowTitle(tr("Landsmith - Pre-assembled VTP Polygon Textures"));
   for (const TextureItem& item : CatalogOf(session, kind))
-    m_ui->List1->addItem(QString::fromStdString(item.Title));
+    m_ui->List1->addItem(ToQString(item.Title));
   connect(m_ui->List1, &QListWidget::currentRowChanged, this, &frmTerrain::ShowEntry);
   connect(m_ui->List1, &QListWidget::itemDoubleClicked, this, &frmTerrain::accept);
   connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmTerrain::accept);
@@ -29,7 +30,7 @@ void frmTerrain::ShowEntry(int row) {
   if (row < 0) return;
   const TextureItem& item = CatalogOf(m_session, m_kind)[static_cast<std::size_t>(row)];
   m_ui->lbTex->SetColor(Rgb(item.R, item.G, item.B));
-  m_ui->lbPack->setText(QString::fromStdString(TextureText(item)));
+  m_ui->lbPack->setText(ToQString(TextureText(item)));
   const QPixmap picture = m_preview.LoadFromCatalog(item.Textures);
   m_ui->imgTex->setPixmap(
       picture.isNull() ? picture : picture.scaled(256, 256, Qt::KeepAspectRatio, Qt::SmoothTransformation));
