@@ -249,11 +249,10 @@ void ReadAll(ByteReader& in, std::vector<Record>& records, std::int32_t announce
     Fields(file, records.emplace_back());
 }
 
-/// A counter of class samples can only be a number of samples. The whole grid follows when it is above 0.
+/// The whole grid follows when the counter is above 0. Filling from a map counts a sample each time it is
+/// set, so the counter may exceed the samples there are.
 void ReadSamples(ByteReader& in, ClassGrid& grid, std::int32_t count, std::string_view what) {
-  if (count < 0 || static_cast<std::size_t>(count) > ClassGrid::SampleCount)
-    in.Fail(std::to_string(count) + " " + std::string(what) + " announced, the grid has " +
-            std::to_string(ClassGrid::SampleCount));
+  if (count < 0) in.Fail(std::to_string(count) + " " + std::string(what) + " announced");
   if (count > 0) FieldReader(in).Samples(grid);
 }
 

@@ -76,7 +76,7 @@ struct AppSettings {
                                    "How to Import Shape Files ...", "How to Calibrate a Map ...",
                                    "How to Make Photo Scenery ..."};
   /// Each a file in html/, or an address beginning "http".
-  std::array<std::string, 5> Link{"island tutorial.pdf", "http://www.scasm.de"};
+  std::array<std::string, 5> Link{"island tutorial.pdf"};
   // RecentDirs
   std::string OpenDir, ImportDir, AppendDir, SurferDir, PolishDir, LWMDir, VTPDir, SaveDir, BmpDir;
 
