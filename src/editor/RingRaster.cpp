@@ -103,15 +103,10 @@ public:
     constexpr std::int64_t one = std::int64_t{1} << 16;
     const std::int64_t slope = (b.x - a.x) * one / (b.y - a.y);
     const std::int32_t top = std::max(a.y, 0), bottom = std::min(b.y, m_height);
-    const bool steep = std::abs(slope) <= one;
     std::int64_t x = a.x * one + one / 2 + slope / 2 + slope * (top - a.y);  // at the middle of the row
-    for (std::int32_t row = top; row < bottom; ++row, x += slope) {
+    for (std::int32_t row = top; row < bottom; ++row, x += slope)
       m_inside.Flip(row, x >> 16);
-      if (steep)
-        m_border.SetRun(row, x >> 16, x >> 16);
-      else
-        m_border.SetRun(row, (x - slope / 2) >> 16, (x + slope / 2) >> 16);
-    }
+    AddBorder(a, b, slope);
   }
 
   void Paint(Surface& surface, const RingColors& colors) {
@@ -130,6 +125,28 @@ public:
   }
 
 private:
+  /// Pixel by pixel along the longer axis, with the painter's rounding: down, a rising edge half a step
+  /// later. `b` is below `a`; both are drawn.
+  void AddBorder(PixelPoint a, PixelPoint b, std::int64_t slope) {
+    constexpr std::int64_t one = std::int64_t{1} << 16, half = one / 2;
+    const auto [west, east] = std::minmax(a.x, b.x);
+    const std::int32_t top = std::max(a.y, 0), last = std::min(b.y, m_height - 1);
+    const bool steep = east - west < b.y - a.y;
+    std::int64_t x = a.x * one + slope * (top - a.y);
+    for (std::int32_t row = top; row <= last; ++row, x += slope) {
+      std::int64_t first = (x + std::max<std::int64_t>(slope, 0) / 2) >> 16, behind = first + 1;
+      if (!steep && slope > 0) {
+        first = (x + half - 1) >> 16;
+        behind = (x + slope + half - 1) >> 16;
+      } else if (!steep) {
+        first = ((x + slope) >> 16) + 1;
+        behind = (x >> 16) + 1;
+      }
+      m_border.SetRun(row, std::clamp<std::int64_t>(first, west, east),
+                      std::clamp<std::int64_t>(behind - 1, west, east));
+    }
+  }
+
   std::int32_t m_height;
   BitRows m_inside, m_border;
 };

@@ -16,7 +16,7 @@ namespace landsmith {
 std::int64_t CountCrossings(std::span<const PixelPoint> ring, std::int32_t height);
 
 /// Up to this many crossings a painter is quick enough, and decides each pixel.
-inline constexpr std::int64_t PainterCrossings = 4'000'000;
+inline constexpr std::int64_t PainterCrossings = 1'000'000;
 
 struct RingColors {
   std::int32_t border = 0;

@@ -29,7 +29,7 @@ protected:
     project.LonDispCenter = 20;
     project.Zoom = 4;
     project.Lines.push_back(ALine().Through({{10, 20}, {10.1, 20.1}}).Selected());
-    const auto file = folder / (name + ".LSP");
+    auto file = folder / (name + ".LSP");
     SaveProjectFile(project, file, folder.Path());
     return file;
   }
