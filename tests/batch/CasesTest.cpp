@@ -1,5 +1,4 @@
 // Every case of tests/batch/cases, once with the plain locale and once with one that has a decimal comma.
-#include "BatchProcess.h"
 #include "CaseFile.h"
 #include "core/Text.h"
 #include "platform/Paths.h"
@@ -9,6 +8,7 @@
 #include <gtest/gtest.h>
 #include <locale.h>
 #include <nlohmann/json.hpp>
+#include <sys/wait.h>
 
 #include <cctype>
 #include <cstdlib>
@@ -95,6 +95,30 @@ std::string PictureSize(const std::string& bytes) {
   };
   if (bytes.size() < 24 || bytes.substr(1, 3) != "PNG") return "no PNG";
   return number(16) + "x" + number(20);
+}
+
+struct BatchResult {
+  int Exit = -1;
+  std::string Out, Err;
+};
+
+std::string Quoted(const std::string& text) {
+  return "'" + ReplaceAll(text, "'", "'\\''") + "'";
+}
+
+/// Runs the built program in `folder`/here; the user's data folder is `folder`/home.
+BatchResult RunBatchProgram(const std::filesystem::path& folder, const std::vector<std::string>& arguments,
+                            const std::string& input, const std::string& localeName) {
+  WriteWholeFile(folder / "stdin", input);
+  std::string command = "cd " + Quoted((folder / "here").string()) + " && LC_ALL=" + localeName +
+                        " XDG_DATA_HOME=" + Quoted((folder / "home").string()) + " " +
+                        Quoted(LANDSMITH_BINARY_DIR "/bin/landsmith-batch");
+  for (const std::string& argument : arguments)
+    command += " " + Quoted(argument);
+  command += " <../stdin >../stdout 2>../stderr";
+  const int status = std::system(command.c_str());  // NOLINT(cert-env33-c): the tests' own command
+  return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, ReadWholeFile(folder / "stdout"),
+          ReadWholeFile(folder / "stderr")};
 }
 
 class Player {
