@@ -11,53 +11,22 @@ namespace {
 
 namespace fs = std::filesystem;
 
-TEST(Project, StartsWithTheSettings) {
-  AppSettings settings;
-  settings.LatLandCenter = 47;
-  settings.LonLandCenter = 11;
-  settings.BGL1Folder = "A";
-  settings.BGL2Folder = "B";
-  const ProjectState project = EmptyProject(settings);
-  EXPECT_EQ(project.Name, "PROJECT");
-  EXPECT_EQ(project.LatDispCenter, 47);
-  EXPECT_EQ(project.LonDispCenter, 11);
-  EXPECT_EQ(project.LatLandCenter, 47);
-  EXPECT_EQ(project.LonLandCenter, 11);
-  EXPECT_EQ(project.BGL1ProjectFolder, "A");
-  EXPECT_EQ(project.BGL2ProjectFolder, "B");
-  EXPECT_EQ(project.PhotoSeasons, 1 + 5 * 256);
-  EXPECT_EQ(project.Zoom, 1);
-  EXPECT_FALSE(project.ProjectOpen);
+void SelectAll(ProjectState& project, bool selected) {
+  const auto mark = [&](auto& records) {
+    records.resize(1);
+    records[0].Selected = selected;
+  };
+  mark(project.Maps), mark(project.Lines), mark(project.Polys), mark(project.Fills), mark(project.Excludes);
+  mark(project.Photos), mark(project.Meshes), mark(project.Objects);
+  mark(project.Lines[0].Points), mark(project.Polys[0].Points);
+  project.Lands.Set(5, 6, selected ? 130 : 2);
+  project.NoOfLands = 1;
 }
 
 TEST(Project, ClearsEverySelection) {
-  ProjectState project;
-  project.Maps.resize(1);
-  project.Maps[0].Selected = true;
-  project.Lines.resize(1);
-  project.Lines[0].Selected = true;
-  project.Lines[0].Points = {{1, 2, 3, true}};
-  project.Polys.resize(1);
-  project.Polys[0].Selected = true;
-  project.Polys[0].Points = {{1, 2, 3, true}};
-  project.Fills.resize(1);
-  project.Fills[0].Selected = true;
-  project.Excludes.resize(1);
-  project.Excludes[0].Selected = true;
-  project.Photos.resize(1);
-  project.Photos[0].Selected = true;
-  project.Meshes.resize(1);
-  project.Meshes[0].Selected = true;
-  project.Objects.resize(1);
-  project.Objects[0].Selected = true;
-  project.Lands.Set(5, 6, 130);
-  project.NoOfLands = 1;
-  ProjectState expected = project;
-  expected.Maps[0].Selected = expected.Lines[0].Selected = expected.Polys[0].Selected = false;
-  expected.Lines[0].Points[0].Selected = expected.Polys[0].Points[0].Selected = false;
-  expected.Fills[0].Selected = expected.Excludes[0].Selected = expected.Photos[0].Selected = false;
-  expected.Meshes[0].Selected = expected.Objects[0].Selected = false;
-  expected.Lands.Set(5, 6, 2);
+  ProjectState project, expected;
+  SelectAll(project, true);
+  SelectAll(expected, false);
   ClearAllSelected(project);
   EXPECT_EQ(project, expected);
   EXPECT_FALSE(project.Waters.IsAllocated());  // no grid is made for it
@@ -77,12 +46,9 @@ TEST(Project, TakesGridBoxesFromGridNumbers) {
   EXPECT_EQ(project.Meshes[0].Box, CellBox(47.26, 11.34));
 }
 
-TEST(Project, BoundsAPath) {
+TEST(Project, GivesAPathWithoutPointsAnEmptyBox) {
   LineRec line;
-  line.Points = {{-1, 5, 0, false}, {3, -2, 0, false}};
-  SetPathBounds(line);
-  EXPECT_EQ(line.Box, (GeoBox{5, -2, -1, 3}));
-  line.Points.clear();
+  line.Box = {5, -2, -1, 3};
   SetPathBounds(line);
   EXPECT_EQ(line.Box, GeoBox{});
 }

@@ -1,35 +1,22 @@
 #include "import/BlnFile.h"
 #include "platform/Paths.h"
-#include "platform/RuntimeError.h"
+#include "support/Builders.h"
+#include "support/Errors.h"
 #include "support/TempFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <fstream>
-#include <iostream>
+#include <string>
 
 namespace landsmith {
 namespace {
 
+using test::Lons;
+using test::Widths;
+using testing::AllOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
-
-template <class Path>
-std::vector<double> Lons(const Path& path) {
-  std::vector<double> lons;
-  for (const auto& point : path.Points)
-    lons.push_back(point.Lon);
-  return lons;
-}
-
-std::vector<float> Widths(const LineRec& line) {
-  std::vector<float> widths;
-  for (const LinePoint& point : line.Points)
-    widths.push_back(point.Wid);
-  return widths;
-}
 
 /// Imports a file with this content into an empty project.
 ProjectState Imported(std::string_view content, const AppSettings& settings) {
@@ -40,35 +27,28 @@ ProjectState Imported(std::string_view content, const AppSettings& settings) {
   return project;
 }
 
-struct HeaderRow {
-  const char* name;
-  const char* header;
-  char separator;
-  const char* itemName;
-};
-
-class BlnHeader : public testing::TestWithParam<HeaderRow> {};
-
-TEST_P(BlnHeader, GivesTheName) {
-  const HeaderRow& row = GetParam();
-  const std::string point = std::string("1") + row.separator + "2\r\n";
-  const auto items = ParseBln(row.header + ("\r\n" + point), row.separator, "a.bln");
-  ASSERT_EQ(items.size(), 1U);
-  EXPECT_EQ(items[0].Name, row.itemName);
+TEST(BlnHeader, GivesTheName) {
+  const struct {
+    const char* header;
+    char separator;
+    const char* name;
+  } rows[] = {{"1", ',', ""},
+              {"1,Main road", ',', "Main road"},
+              {" 1 ,  Main road ", ',', "  Main road "},
+              {"1,1,lake", ',', "lake"},
+              {"1,0,lake, west", ',', "lake, west"},
+              {"1,1,", ',', ""},
+              {"1,1", ',', "1"},
+              {"1,2,lake", ',', "2,lake"},
+              {"1\t1\tlake", '\t', "lake"},
+              {"1,Caf\xE9", ',', "Caf\xC3\xA9"}};
+  for (const auto& row : rows) {
+    const std::string point = std::string("1") + row.separator + "2\r\n";
+    const auto items = ParseBln(row.header + ("\r\n" + point), row.separator, "a.bln");
+    ASSERT_EQ(items.size(), 1U);
+    EXPECT_EQ(items[0].Name, row.name) << row.header;
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(All, BlnHeader,
-                         testing::Values(HeaderRow{"countAlone", "1", ',', ""},
-                                         HeaderRow{"name", "1,Main road", ',', "Main road"},
-                                         HeaderRow{"blanksAround", " 1 ,  Main road ", ',', "  Main road "},
-                                         HeaderRow{"flagOne", "1,1,lake", ',', "lake"},
-                                         HeaderRow{"flagZero", "1,0,lake, west", ',', "lake, west"},
-                                         HeaderRow{"flagAndNothing", "1,1,", ',', ""},
-                                         HeaderRow{"flagWithoutSecondSeparator", "1,1", ',', "1"},
-                                         HeaderRow{"otherDigit", "1,2,lake", ',', "2,lake"},
-                                         HeaderRow{"tab", "1\t1\tlake", '\t', "lake"},
-                                         HeaderRow{"letterOfTheCodePage", "1,Caf\xE9", ',', "Caf\xC3\xA9"}),
-                         [](const auto& row) { return row.param.name; });
 
 TEST(BlnText, TakesLooseLineEndsAndBlanks) {
   const auto items = ParseBln("2,a\n 1.5 , -2e1 , 7 \n3,4,,9\r\n1\r\n5,6,2.5\r\n\r\n  \n", ',', "a.bln");
@@ -81,38 +61,28 @@ TEST(BlnText, TakesLooseLineEndsAndBlanks) {
   EXPECT_EQ(items[1].Points[0].Wid, 2.5F);
 }
 
-struct BadRow {
-  const char* name;
-  const char* text;
-  const char* line;
-};
-
-class BadBln : public testing::TestWithParam<BadRow> {};
-
-TEST_P(BadBln, IsRefusedWithItsLineAndLeavesTheProject) {
+TEST(BadBln, IsRefusedWithItsLineAndLeavesTheProject) {
+  const struct {
+    const char* text;
+    const char* line;
+  } rows[] = {{"1,a\n1,2\nroad\n", "line 3"},
+              {"2,a\n1,2\n3 4\n", "line 3"},
+              {"2,a\n1,2\n1,north\n", "line 3"},
+              {"1,a\n1,2,wide\n", "line 2"},
+              {"1,a\n1,2\n3,b\n1,2\n3,4\n", "line 3"},
+              {"2000000000\n1,2\n", "line 1"},
+              {"-1\n", "line 1"},
+              {"1,a\n1,2\n\n1,b\n1,2\n", "line 3"}};
   const test::TempFolder folder;
-  WriteWholeFile(folder / "bad.bln", GetParam().text);
-  ProjectState project;
-  try {
-    ImportBLN(folder / "bad.bln", project, AppSettings{});
-    FAIL() << "accepted";
-  } catch (const RuntimeError& error) {
-    EXPECT_THAT(error.what(), HasSubstr("bad.bln"));
-    EXPECT_THAT(error.what(), HasSubstr(GetParam().line));
+  for (const auto& row : rows) {
+    WriteWholeFile(folder / "bad.bln", row.text);
+    ProjectState project;
+    EXPECT_THAT(test::ErrorOf([&] { ImportBLN(folder / "bad.bln", project, AppSettings{}); }),
+                AllOf(HasSubstr("bad.bln"), HasSubstr(row.line)))
+        << row.text;
+    EXPECT_TRUE(project.Lines.empty() && project.Polys.empty());
   }
-  EXPECT_TRUE(project.Lines.empty() && project.Polys.empty());
 }
-
-INSTANTIATE_TEST_SUITE_P(All, BadBln,
-                         testing::Values(BadRow{"headerIsNoNumber", "1,a\n1,2\nroad\n", "line 3"},
-                                         BadRow{"pointWithoutSeparator", "2,a\n1,2\n3 4\n", "line 3"},
-                                         BadRow{"pointIsNoNumber", "2,a\n1,2\n1,north\n", "line 3"},
-                                         BadRow{"widthIsNoNumber", "1,a\n1,2,wide\n", "line 2"},
-                                         BadRow{"pointsMissing", "1,a\n1,2\n3,b\n1,2\n3,4\n", "line 3"},
-                                         BadRow{"countBeyondAllMemory", "2000000000\n1,2\n", "line 1"},
-                                         BadRow{"countBelowZero", "-1\n", "line 1"},
-                                         BadRow{"blankLineBetween", "1,a\n1,2\n\n1,b\n1,2\n", "line 3"}),
-                         [](const auto& row) { return row.param.name; });
 
 TEST(BlnImport, ClosedItemsBecomePolygonsAndLines) {
   AppSettings settings;
@@ -189,32 +159,6 @@ TEST(BlnSeparator, MayBeAWord) {
   EXPECT_EQ(BlnSeparatorOf(settings), '\t');
   settings.BLNSeparator = "\xC2\xA7";
   EXPECT_EQ(BlnSeparatorOf(settings), '\xA7') << "one byte in the file";
-}
-
-/// Counts in a file by its headers alone: an item is skipped by its announced number of lines.
-std::size_t ItemsByHeaders(const std::filesystem::path& file) {
-  std::ifstream in(file);
-  std::size_t items = 0;
-  for (std::string line; std::getline(in, line) && !line.empty(); ++items)
-    for (int points = std::stoi(line); points > 0; --points)
-      std::getline(in, line);
-  return items;
-}
-
-/// LANDSMITH_BLN_FOLDER names a folder of BLN files in circulation.
-TEST(BlnInCirculation, IsReadWhole) {
-  const char* const folder = std::getenv("LANDSMITH_BLN_FOLDER");
-  if (folder == nullptr) GTEST_SKIP() << "LANDSMITH_BLN_FOLDER is not set";
-  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-    if (entry.path().extension() != ".bln") continue;
-    ProjectState project;
-    AppSettings settings;
-    settings.BLNAutoLine = false;
-    ImportBLN(entry.path(), project, settings);
-    EXPECT_EQ(project.Lines.size() + project.Polys.size(), ItemsByHeaders(entry.path())) << entry.path();
-    std::cout << entry.path().filename() << ": " << project.Lines.size() << " lines, " << project.Polys.size()
-              << " polygons\n";
-  }
 }
 
 }  // namespace

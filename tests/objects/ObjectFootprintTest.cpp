@@ -40,15 +40,6 @@ TEST(ObjectFootprint, TurnsClockwiseFromNorth) {
   EXPECT_FLOAT_EQ(object.Y4, 10);
 }
 
-TEST(ObjectFootprint, HasItsBoxInDegreesOfTheCanvas) {
-  ObjectRec object = AnObject(2, 0);
-  ComputeObjectFootprint(object, Scale);
-  EXPECT_DOUBLE_EQ(object.Box.NLat, 10.2);
-  EXPECT_DOUBLE_EQ(object.Box.SLat, 9.8);
-  EXPECT_DOUBLE_EQ(object.Box.WLon, 19.8);
-  EXPECT_DOUBLE_EQ(object.Box.ELon, 20.2);
-}
-
 TEST(ObjectFootprint, OfSymbolsHasAFixedSize) {
   const struct {
     std::int32_t type;

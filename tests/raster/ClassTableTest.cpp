@@ -1,5 +1,5 @@
-#include "platform/RuntimeError.h"
 #include "raster/ClassTable.h"
+#include "support/Errors.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -7,6 +7,7 @@
 namespace landsmith {
 namespace {
 
+using testing::AllOf;
 using testing::HasSubstr;
 
 constexpr const char* TwoClasses =
@@ -60,15 +61,10 @@ TEST(ClassTableText, IsRefusedWithItsLine) {
               {"001 150 120 007 cit x", "class number"},
               {"\n001 150 120 007 011 x", "line 1"},
               {manyClasses, "line 128"}};
-  for (const auto& row : rows) {
-    try {
-      ParseClassTable(row.text, ClassKind::Land, "lands.txt");
-      ADD_FAILURE() << "accepted: " << row.text;
-    } catch (const RuntimeError& error) {
-      EXPECT_THAT(error.what(), HasSubstr("lands.txt"));
-      EXPECT_THAT(error.what(), HasSubstr(row.found));
-    }
-  }
+  for (const auto& row : rows)
+    EXPECT_THAT(test::ErrorOf([&] { ParseClassTable(row.text, ClassKind::Land, "lands.txt"); }),
+                AllOf(HasSubstr("lands.txt"), HasSubstr(row.found)))
+        << row.text;
 }
 
 TEST(ClassItemTexts, BeginWithThreeClassesOfTheTable) {

@@ -27,115 +27,79 @@ struct FaultRow {
   std::size_t errors = 1;  ///< more where one fault hides what later statements refer to
 };
 
-void PrintTo(const FaultRow& row, std::ostream* out) {
-  *out << row.name;
-}
-
-class ScmFaults : public testing::TestWithParam<FaultRow> {};
-
-TEST_P(ScmFaults, AreReportedWithLineAndReason) {
-  const FaultRow& row = GetParam();
-  const std::string source = ReplaceAll(OneRoad, row.from, row.to);
-  ASSERT_NE(source, OneRoad) << "the row changes nothing";
-  const CheckedSource checked = CheckScm(ParseScm(source));
-  ASSERT_FALSE(checked.Errors.empty());
-  EXPECT_EQ(checked.Errors.front().Line, row.line);
-  EXPECT_THAT(checked.Errors.front().Reason, HasSubstr(row.reason));
-  EXPECT_EQ(checked.Errors.size(), row.errors)
-      << "then: " << checked.Errors.back().Line << " " << checked.Errors.back().Reason;
-}
-
 constexpr const char* EndOfIndex = "        401 120 0\n";
 
-INSTANTIATE_TEST_SUITE_P(
-    Words, ScmFaults,
-    testing::Values(
-        FaultRow{"unknown statement", "VTPEnd", "VTPEnd\nVTPFoo( 1 )", 31, "VTPFoo is not known"},
-        FaultRow{"missing bracket", "VTPTexID( 0 0 )", "VTPTexID( 0 0 ", 11, "VTPTexID is not closed"},
-        FaultRow{"bracket open at the end", "VTPEnd", "VTPEnd(", 30, "VTPEnd is not closed"},
-        FaultRow{"closing bracket too many", "VTPCPoint( -1 0 )", "VTPCPoint( -1 0 ) )", 19,
-                 "closing bracket"},
-        FaultRow{"bracket without a name", ":cell00", ":cell00 (", 7, "opening bracket"},
-        FaultRow{"open quote", "153 0 0 0 4", "153 0 0 0 4 \"a.bmp", 27, "quoted text is not closed"},
-        FaultRow{"no number", "12 -7", "12 -x", 17, "is -x, which is no whole number"},
-        FaultRow{"fraction", "( 12 -7", "( 12.0 -7", 17, "12.0, which is no whole number"},
-        FaultRow{"too few arguments", "( 12 -7 )", "( 12 )", 17,
-                 "VTPCPoint takes 2 to 3 arguments, given are 1"},
-        FaultRow{"too many arguments", "VTPEnd", "VTPEnd( 1 )", 30, "VTPEnd takes 0 arguments, given are 1"},
-        FaultRow{"label twice", "VTPEnd\n", "VTPEnd\n:CELL00\n", 31, "is used in line 7 already"}),
-    [](const auto& row) { return ReplaceAll(row.param.name, " ", "_"); });
+const FaultRow FaultRows[] = {
+    // words
+    {"unknown statement", "VTPEnd", "VTPEnd\nVTPFoo( 1 )", 31, "VTPFoo is not known"},
+    {"missing bracket", "VTPTexID( 0 0 )", "VTPTexID( 0 0 ", 11, "VTPTexID is not closed"},
+    {"bracket open at the end", "VTPEnd", "VTPEnd(", 30, "VTPEnd is not closed"},
+    {"closing bracket too many", "VTPCPoint( -1 0 )", "VTPCPoint( -1 0 ) )", 19, "closing bracket"},
+    {"bracket without a name", ":cell00", ":cell00 (", 7, "opening bracket"},
+    {"open quote", "153 0 0 0 4", "153 0 0 0 4 \"a.bmp", 27, "quoted text is not closed"},
+    {"no number", "12 -7", "12 -x", 17, "is -x, which is no whole number"},
+    {"fraction", "( 12 -7", "( 12.0 -7", 17, "12.0, which is no whole number"},
+    {"too few arguments", "( 12 -7 )", "( 12 )", 17, "VTPCPoint takes 2 to 3 arguments, given are 1"},
+    {"too many arguments", "VTPEnd", "VTPEnd( 1 )", 30, "VTPEnd takes 0 arguments, given are 1"},
+    {"label twice", "VTPEnd\n", "VTPEnd\n:CELL00\n", 31, "is used in line 7 already"},
+    // ranges
+    {"place beyond 32 bits", "5000 6000", "5000 2147483648", 16, "y is 2147483648, allowed is"},
+    {"step too far", "1022 -1022", "1022 -1023", 18, "the step in y is -1023"},
+    {"width of 0", "-1022 13", "-1022 0", 18, "the width is 0"},
+    {"width beyond a byte", "3 12 )", "3 256 )", 16, "the width is 256"},
+    {"area beyond 31", "1 1 17 24", "1 1 17 32", 9, "y is 32", 2},
+    {"layer beyond 6 bits", "( 13 1 1 0", "( 64 1 1 0", 10, "the layer is 64"},
+    {"replace flag", "( 13 1 1 0", "( 13 2 1 0", 10, "the replace flag is 2"},
+    {"kind of poly", "( 2 4 1 )", "( 2 4 0 )", 15, "the kind is 0, it must be 1"},
+    {"texture that is not listed", "VTPTexID( 0 0", "VTPTexID( 1 0", 11, "there is no texture 1"},
+    {"latitude beyond the pole", "1 48 47", "1 92 47", 3, "the northern bound is 92"},
+    {"bounds the wrong way", "1 48 47 9 8", "1 48 47 8 9", 3, "not east of"},
+    {"bounds missing", "1 48 47 9 8", "0x201", 5, "wants a Header with bounds"},
+    {"column beyond the world", "401 120", "785 120", 23, "the cell's column is 785"},
+    {"buffer without a size", "BUF 8192", "BUF 0", 1, "the buffer is 0"},
+    // counts
+    {"layers", "VTPArea( 1", "VTPArea( 2", 9, "announces 2 layers, 1 found"},
+    {"textures", "( 13 1 1 0", "( 13 1 0 0", 10, "announces 0 textures, 1 found"},
+    {"polys", "VTPPolyCount( 1", "VTPPolyCount( 3", 12, "announces 3 polys, 1 found"},
+    {"points", "( 2 4 1 )", "( 2 5 1 )", 15, "announces 5 points, 4 found"},
+    {"steps behind a place", "6000 3 12", "6000 4 12", 16, "announces 4 steps, 3 found"},
+    {"cells", EndOfIndex, "401 120 0 402 120 0", 22, "announces 1 cells of 3 numbers, 6 numbers"},
+    {"cells and labels", "( 1\n        401 120 0", "( 0", 22, "holds 0 cells, the file has 1"},
+    {"listed textures", "153 0 0 0 4", "153 0 0 0 4 154 0 0 0 4", 27, "but goes on with 154"},
+    {"textures too few", "VTPTextureList( 1", "VTPTextureList( 2", 26, "announces 2 textures, 1 found"},
+    {"cell in another place", "401 120", "402 120", 23, "wants a VTPArea at 18 24"},
+    // order
+    {"no header", "Header( 1 48 47 9 8 )", "", 5, "VTPFileHeader stands in front of the Header"},
+    {"buffer behind the header", "VTPFileHeader", "Set( BUF 1 )\nVTPFileHeader", 5, "Set stands behind"},
+    {"no file header", "VTPFileHeader", "", 9, "VTPArea stands in front of VTPFileHeader", 3},
+    {"no label", ":cell00", "", 9, "VTPArea stands outside of a label", 2},
+    {"label without an area", ":cell00", ":cell00\n:cell01", 7, ":cell00 is followed by no VTPArea", 2},
+    {"no poly count", "VTPPolyCount( 1 )", "", 11, "not followed by a VTPPolyCount"},
+    {"poly count twice", "VTPPolyCount( 1 )", "VTPPolyCount( 1 ) VTPPolyCount( 1 )", 12,
+     "right behind a VTPTexID"},
+    {"no end", "VTPEnd", "", 26, "there is no VTPEnd"},
+    {"index twice", "VTPTextureList( 1\n", "VTPIndexList( 0 )\nVTPTextureList( 1\n", 26,
+     "a second VTPIndexList"},
+    {"area behind the index", "VTPEnd", "VTPArea( 0 1 1 1 )\nVTPEnd", 30,
+     "VTPArea stands behind VTPIndexList"},
+    // textures
+    {"numbers missing", "153 0 0 0 4", "153 0 0 4", 27, "153 wants four numbers"},
+    {"effect without controller", "153 0 0", "\"a.bmp\" 0 1", 27, "has no controller"},
+    {"effect on a number", "153 0 0 0 4", "153 0 1 0 4 wave", 27, "is no bitmap and has an effect"},
+    {"type beyond 4 bits", "153 0 0", "153 16 0", 27, "the texture type is 16"}};
 
-INSTANTIATE_TEST_SUITE_P(
-    Ranges, ScmFaults,
-    testing::Values(
-        FaultRow{"place beyond 32 bits", "5000 6000", "5000 2147483648", 16, "y is 2147483648, allowed is"},
-        FaultRow{"step too far", "1022 -1022", "1022 -1023", 18, "the step in y is -1023"},
-        FaultRow{"width of 0", "-1022 13", "-1022 0", 18, "the width is 0"},
-        FaultRow{"width beyond a byte", "3 12 )", "3 256 )", 16, "the width is 256"},
-        FaultRow{"area beyond 31", "1 1 17 24", "1 1 17 32", 9, "y is 32", 2},
-        FaultRow{"layer beyond 6 bits", "( 13 1 1 0", "( 64 1 1 0", 10, "the layer is 64"},
-        FaultRow{"replace flag", "( 13 1 1 0", "( 13 2 1 0", 10, "the replace flag is 2"},
-        FaultRow{"kind of poly", "( 2 4 1 )", "( 2 4 0 )", 15, "the kind is 0, it must be 1"},
-        FaultRow{"texture that is not listed", "VTPTexID( 0 0", "VTPTexID( 1 0", 11, "there is no texture 1"},
-        FaultRow{"latitude beyond the pole", "1 48 47", "1 92 47", 3, "the northern bound is 92"},
-        FaultRow{"bounds the wrong way", "1 48 47 9 8", "1 48 47 8 9", 3, "not east of"},
-        FaultRow{"bounds missing", "1 48 47 9 8", "0x201", 5, "wants a Header with bounds"},
-        FaultRow{"column beyond the world", "401 120", "785 120", 23, "the cell's column is 785"},
-        FaultRow{"buffer without a size", "BUF 8192", "BUF 0", 1, "the buffer is 0"}),
-    [](const auto& row) { return ReplaceAll(ReplaceAll(row.param.name, " ", "_"), "'", ""); });
-
-INSTANTIATE_TEST_SUITE_P(
-    Counts, ScmFaults,
-    testing::Values(
-        FaultRow{"layers", "VTPArea( 1", "VTPArea( 2", 9, "announces 2 layers, 1 found"},
-        FaultRow{"textures", "( 13 1 1 0", "( 13 1 0 0", 10, "announces 0 textures, 1 found"},
-        FaultRow{"polys", "VTPPolyCount( 1", "VTPPolyCount( 3", 12, "announces 3 polys, 1 found"},
-        FaultRow{"points", "( 2 4 1 )", "( 2 5 1 )", 15, "announces 5 points, 4 found"},
-        FaultRow{"steps behind a place", "6000 3 12", "6000 4 12", 16, "announces 4 steps, 3 found"},
-        FaultRow{"cells", EndOfIndex, "401 120 0 402 120 0", 22, "announces 1 cells of 3 numbers, 6 numbers"},
-        FaultRow{"cells and labels", "( 1\n        401 120 0", "( 0", 22, "holds 0 cells, the file has 1"},
-        FaultRow{"listed textures", "153 0 0 0 4", "153 0 0 0 4 154 0 0 0 4", 27, "but goes on with 154"},
-        FaultRow{"textures too few", "VTPTextureList( 1", "VTPTextureList( 2", 26,
-                 "announces 2 textures, 1 found"},
-        FaultRow{"cell in another place", "401 120", "402 120", 23, "wants a VTPArea at 18 24"}),
-    [](const auto& row) { return ReplaceAll(row.param.name, " ", "_"); });
-
-INSTANTIATE_TEST_SUITE_P(
-    Order, ScmFaults,
-    testing::Values(
-        FaultRow{"no header", "Header( 1 48 47 9 8 )", "", 5, "VTPFileHeader stands in front of the Header"},
-        FaultRow{"buffer behind the header", "VTPFileHeader", "Set( BUF 1 )\nVTPFileHeader", 5,
-                 "Set stands behind"},
-        FaultRow{"no file header", "VTPFileHeader", "", 9, "VTPArea stands in front of VTPFileHeader", 3},
-        FaultRow{"no label", ":cell00", "", 9, "VTPArea stands outside of a label", 2},
-        FaultRow{"label without an area", ":cell00", ":cell00\n:cell01", 7,
-                 ":cell00 is followed by no VTPArea", 2},
-        FaultRow{"no poly count", "VTPPolyCount( 1 )", "", 11, "not followed by a VTPPolyCount"},
-        FaultRow{"poly count twice", "VTPPolyCount( 1 )", "VTPPolyCount( 1 ) VTPPolyCount( 1 )", 12,
-                 "right behind a VTPTexID"},
-        FaultRow{"no end", "VTPEnd", "", 26, "there is no VTPEnd"},
-        FaultRow{"index twice", "VTPTextureList( 1\n", "VTPIndexList( 0 )\nVTPTextureList( 1\n", 26,
-                 "a second VTPIndexList"},
-        FaultRow{"area behind the index", "VTPEnd", "VTPArea( 0 1 1 1 )\nVTPEnd", 30,
-                 "VTPArea stands behind VTPIndexList"}),
-    [](const auto& row) { return ReplaceAll(row.param.name, " ", "_"); });
-
-INSTANTIATE_TEST_SUITE_P(
-    Textures, ScmFaults,
-    testing::Values(FaultRow{"numbers missing", "153 0 0 0 4", "153 0 0 4", 27, "153 wants four numbers"},
-                    FaultRow{"effect without controller", "153 0 0", "\"a.bmp\" 0 1", 27,
-                             "has no controller"},
-                    FaultRow{"effect on a number", "153 0 0 0 4", "153 0 1 0 4 wave", 27,
-                             "is no bitmap and has an effect"},
-                    FaultRow{"type beyond 4 bits", "153 0 0", "153 16 0", 27, "the texture type is 16"}),
-    [](const auto& row) { return ReplaceAll(row.param.name, " ", "_"); });
-
-TEST(ScmChecker, AcceptsWhatTheCompilersWriteWithEitherLineEnd) {
-  EXPECT_TRUE(CheckScm(ParseScm(OneRoad)).Errors.empty());
-  const CheckedSource checked = CheckScm(ParseScm(ReplaceAll(OneRoad, "\n", "\r\n")));
-  EXPECT_TRUE(checked.Errors.empty());
-  ASSERT_TRUE(checked.Vtp.has_value());
-  EXPECT_EQ(checked.Vtp->Cells.size(), 1U);
+TEST(ScmFaults, AreReportedWithLineAndReason) {
+  for (const FaultRow& row : FaultRows) {
+    SCOPED_TRACE(row.name);
+    const std::string source = ReplaceAll(OneRoad, row.from, row.to);
+    ASSERT_NE(source, OneRoad) << "the row changes nothing";
+    const CheckedSource checked = CheckScm(ParseScm(source));
+    ASSERT_FALSE(checked.Errors.empty());
+    EXPECT_EQ(checked.Errors.front().Line, row.line);
+    EXPECT_THAT(checked.Errors.front().Reason, HasSubstr(row.reason));
+    EXPECT_EQ(checked.Errors.size(), row.errors)
+        << "then: " << checked.Errors.back().Line << " " << checked.Errors.back().Reason;
+  }
 }
 
 TEST(ScmChecker, HoldsPlacesToWhatTheFileCanHold) {

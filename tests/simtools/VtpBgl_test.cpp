@@ -131,12 +131,6 @@ TEST(VtpBgl, BoundsGiveTheCentreOfTheFile) {
   }
 }
 
-TEST(VtpBgl, ASourceWithoutTerrainNamesNoSection) {
-  const std::string bytes = WriteBgl({1, 48, 47, 9, 8}, {});
-  EXPECT_EQ(bytes.size(), 128U);
-  EXPECT_EQ(bytes.substr(54, 4), std::string(4, '\0'));
-}
-
 }  // namespace
 
 }  // namespace landsmith::simtools

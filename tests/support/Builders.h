@@ -5,6 +5,7 @@
 
 #include <initializer_list>
 #include <string>
+#include <vector>
 
 namespace landsmith::test {
 
@@ -36,5 +37,20 @@ public:
 private:
   LineRec m_line;
 };
+
+template <class Path>
+std::vector<double> Lons(const Path& path) {
+  std::vector<double> lons;
+  for (const auto& point : path.Points)
+    lons.push_back(point.Lon);
+  return lons;
+}
+
+inline std::vector<float> Widths(const LineRec& line) {
+  std::vector<float> widths;
+  for (const LinePoint& point : line.Points)
+    widths.push_back(point.Wid);
+  return widths;
+}
 
 }  // namespace landsmith::test

@@ -2,54 +2,44 @@
 #include "support/Builders.h"
 #include "vector/LineJoin.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace landsmith {
 namespace {
 
 using test::ALine;
+using test::Lons;
 
-/// Every vertex lies on the equator: the longitudes tell the line.
-std::vector<double> Lons(const LineRec& line) {
-  std::vector<double> lons;
-  for (const LinePoint& point : line.Points)
-    lons.push_back(point.Lon);
-  return lons;
+// Every vertex lies on the equator: the longitudes tell the line.
+
+LineRec Other(double from, double to, const char* name = "") {
+  LineRec line = ALine().Named(name).Through({{0, from}, {0, to}});
+  line.Color = 1;
+  return line;
+}
+LineRec Fresh(double from, double to, const char* name = "") {
+  LineRec line = ALine().Named(name).Through({{0, from}, {0, to}});
+  line.Color = 2;
+  return line;
+}
+LineRec OfType(LineRec line) {
+  line.Type = "Points//";
+  return line;
 }
 
 TEST(JoinTwoLines, JoinsWhereTheGapIsShorterThanASegmentBesideIt) {
+  const LineRec onePoint = ALine().Through({{0, 1}});
   struct {
     const char* name;
     LineRec a, b;
     std::vector<double> joined;  // empty: refused
     const char* kept;
   } const rows[] = {
-      {"a then b, the vertex of a stays",
-       ALine().Named("a").Through({{0, 0}, {0, 10}}),
-       ALine().Named("b").Through({{0, 11}, {0, 20}}),
-       {0, 10, 20},
-       "a"},
-      {"b then a, b is kept",
-       ALine().Named("a").Through({{0, 11}, {0, 20}}),
-       ALine().Named("b").Through({{0, 0}, {0, 10}}),
-       {0, 10, 20},
-       "b"},
-      {"gap equal to both segments",
-       ALine().Named("a").Through({{0, 0}, {0, 10}}),
-       ALine().Named("b").Through({{0, 20}, {0, 30}}),
-       {},
-       ""},
-      {"one long segment is enough",
-       ALine().Named("a").Through({{0, 9.5}, {0, 10}}),
-       ALine().Named("b").Through({{0, 12}, {0, 20}}),
-       {9.5, 10, 20},
-       "a"},
-      {"single points have no segment",
-       ALine().Named("a").Through({{0, 1}}),
-       ALine().Named("b").Through({{0, 1}}),
-       {},
-       ""},
+      {"a then b, the vertex of a stays", Other(0, 10, "a"), Other(11, 20, "b"), {0, 10, 20}, "a"},
+      {"b then a, b is kept", Other(11, 20, "a"), Other(0, 10, "b"), {0, 10, 20}, "b"},
+      {"gap equal to both segments", Other(0, 10, "a"), Other(20, 30, "b"), {}, ""},
+      {"one long segment is enough", Other(9.5, 10, "a"), Other(12, 20, "b"), {9.5, 10, 20}, "a"},
+      {"single points have no segment", onePoint, onePoint, {}, ""},
   };
   for (const auto& row : rows) {
     ProjectState project;
@@ -81,62 +71,40 @@ TEST(JoinTwoLines, NeedsTwoSelected) {
   EXPECT_EQ(JoinLines(project, selection), "Could not find 2 lines to join!");
 }
 
-struct AutoRow {
-  const char* name;
-  LineRec other, fresh;
-  bool dirJoin, nameJoin;
-  std::vector<double> joined;  // empty: no join
-  const char* kept;
-};
-
-class AutoJoin : public testing::TestWithParam<AutoRow> {};
-
-TEST_P(AutoJoin, MeetsCloseEnds) {
-  const AutoRow& row = GetParam();
-  ProjectState project;
-  project.Lines = {ALine().Named("far").Through({{0, 50}, {0, 60}}), row.other, row.fresh};
-  AppSettings settings;
-  settings.DisplayJoin = false;
-  settings.DirJoin = row.dirJoin;
-  settings.NameJoin = row.nameJoin;
-  const bool joined = TryAutoJoin(project, 2, settings, ViewScale{1, 1, 1});
-  EXPECT_EQ(joined, !row.joined.empty());
-  ASSERT_EQ(project.Lines.size(), joined ? 2U : 3U);
-  if (!joined) return;
-  EXPECT_TRUE(project.Lines[1].Selected);
-  EXPECT_EQ(Lons(project.Lines[1]), row.joined);
-  EXPECT_EQ(project.Lines[1].Color, std::string_view(row.kept) == "new" ? 2 : 1);
+TEST(AutoJoin, MeetsCloseEnds) {
+  const struct {
+    const char* name;
+    LineRec other, fresh;
+    bool dirJoin, nameJoin;
+    std::vector<double> joined;  // empty: no join
+    const char* kept;
+  } rows[] = {{"newThenOther", Other(10, 20), Fresh(0, 10), true, true, {0, 10, 20}, "new"},
+              {"otherThenNew", Other(0, 10), Fresh(10, 20), true, true, {0, 10, 20}, "other"},
+              {"endsMeetIsRefusedByDirection", Other(20, 10), Fresh(0, 10), true, true, {}, ""},
+              {"endsMeet", Other(20, 10), Fresh(0, 10), false, true, {0, 10, 20}, "new"},
+              {"startsMeet", Other(10, 20), Fresh(10, 0), false, true, {0, 10, 20}, "new"},
+              {"otherName", Other(10, 20, "x"), Fresh(0, 10, "y"), true, true, {}, ""},
+              {"otherNameIgnored", Other(10, 20, "x"), Fresh(0, 10, "y"), true, false, {0, 10, 20}, "new"},
+              {"otherType", Other(10, 20), OfType(Fresh(0, 10)), true, false, {}, ""},
+              {"withinAStep", Other(10.00005, 20), Fresh(0, 10), true, true, {0, 10, 20}, "new"},
+              {"beyondAStep", Other(10.00006, 20), Fresh(0, 10), true, true, {}, ""}};
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.name);
+    ProjectState project;
+    project.Lines = {ALine().Named("far").Through({{0, 50}, {0, 60}}), row.other, row.fresh};
+    AppSettings settings;
+    settings.DisplayJoin = false;
+    settings.DirJoin = row.dirJoin;
+    settings.NameJoin = row.nameJoin;
+    const bool joined = TryAutoJoin(project, 2, settings, ViewScale{1, 1, 1});
+    EXPECT_EQ(joined, !row.joined.empty());
+    ASSERT_EQ(project.Lines.size(), joined ? 2U : 3U);
+    if (!joined) continue;
+    EXPECT_TRUE(project.Lines[1].Selected);
+    EXPECT_EQ(Lons(project.Lines[1]), row.joined);
+    EXPECT_EQ(project.Lines[1].Color, std::string_view(row.kept) == "new" ? 2 : 1);
+  }
 }
-
-LineRec Other(double from, double to, const char* name = "") {
-  LineRec line = ALine().Named(name).Through({{0, from}, {0, to}});
-  line.Color = 1;
-  return line;
-}
-LineRec Fresh(double from, double to, const char* name = "") {
-  LineRec line = ALine().Named(name).Through({{0, from}, {0, to}});
-  line.Color = 2;
-  return line;
-}
-LineRec OfType(LineRec line) {
-  line.Type = "Points//";
-  return line;
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    All, AutoJoin,
-    testing::Values(
-        AutoRow{"newThenOther", Other(10, 20), Fresh(0, 10), true, true, {0, 10, 20}, "new"},
-        AutoRow{"otherThenNew", Other(0, 10), Fresh(10, 20), true, true, {0, 10, 20}, "other"},
-        AutoRow{"endsMeetIsRefusedByDirection", Other(20, 10), Fresh(0, 10), true, true, {}, ""},
-        AutoRow{"endsMeet", Other(20, 10), Fresh(0, 10), false, true, {0, 10, 20}, "new"},
-        AutoRow{"startsMeet", Other(10, 20), Fresh(10, 0), false, true, {0, 10, 20}, "new"},
-        AutoRow{"otherName", Other(10, 20, "x"), Fresh(0, 10, "y"), true, true, {}, ""},
-        AutoRow{"otherNameIgnored", Other(10, 20, "x"), Fresh(0, 10, "y"), true, false, {0, 10, 20}, "new"},
-        AutoRow{"otherType", Other(10, 20), OfType(Fresh(0, 10)), true, false, {}, ""},
-        AutoRow{"withinAStep", Other(10.00005, 20), Fresh(0, 10), true, true, {0, 10, 20}, "new"},
-        AutoRow{"beyondAStep", Other(10.00006, 20), Fresh(0, 10), true, true, {}, ""}),
-    [](const auto& row) { return row.param.name; });
 
 TEST(AutoJoinOnScreen, ReachesThreePixels) {
   constexpr ViewScale scale{1024, 512, 1};

@@ -8,6 +8,8 @@ namespace landsmith {
 namespace {
 
 using test::ALine;
+using test::Lons;
+using test::Widths;
 using testing::ElementsAre;
 
 /// A line along the equator with vertices at the longitudes 0, 1, 2, ...
@@ -16,29 +18,6 @@ LineRec EquatorLine(std::size_t vertices) {
   for (std::size_t i = 0; i < vertices; ++i)
     AppendLinePoint(line, {0, static_cast<double>(i)}, 10);
   return line;
-}
-
-std::vector<double> Lons(const LineRec& line) {
-  std::vector<double> lons;
-  for (const LinePoint& point : line.Points)
-    lons.push_back(point.Lon);
-  return lons;
-}
-
-std::vector<float> Widths(const LineRec& line) {
-  std::vector<float> widths;
-  for (const LinePoint& point : line.Points)
-    widths.push_back(point.Wid);
-  return widths;
-}
-
-TEST(LineDrawing, ANewLineHasTwoVerticesAndGrows) {
-  LineRec line = NewLine({50, 8}, {51, 7}, 35, 255);
-  AppendLinePoint(line, {49, 9}, 20);
-  EXPECT_THAT(Lons(line), ElementsAre(8, 7, 9));
-  EXPECT_THAT(Widths(line), ElementsAre(35, 35, 20));
-  EXPECT_EQ(line.Box, (GeoBox{51, 49, 7, 9}));
-  EXPECT_EQ(line.Color, 255);
 }
 
 TEST(LineDeletion, OfAVertexOfTwoTakesTheLine) {

@@ -24,57 +24,50 @@ PolyRec SelectedPoly(const std::string& type) {
   return poly;
 }
 
-struct DataRow {
-  const char* name;
-  std::vector<std::string> steps;
-  std::function<void(ProjectState&)> fill;
-};
-
-class StepData : public testing::TestWithParam<DataRow> {};
-
-TEST_P(StepData, OffersTheStepsThatHaveSelectedItems) {
-  ProjectState project;
-  GetParam().fill(project);
-  EXPECT_EQ(StepsWithData(project), GetParam().steps);
+TEST(CompileSteps, AreOfferedForSelectedItems) {
+  const struct {
+    const char* name;
+    std::vector<std::string> steps;
+    std::function<void(ProjectState&)> fill;
+  } rows[] = {{"nothing", {}, [](ProjectState&) {}},
+              {"unselected",
+               {},
+               [](ProjectState& project) {
+                 project.Lines = {ALine().Vtp("4", "1280")};
+                 project.Fills.emplace_back();
+                 project.Polys.emplace_back().Type = "LWM//";
+                 project.Lands.Set(10, 10, 5);
+               }},
+              {"lands", {"land"}, [](ProjectState& project) { project.Lands.Set(10, 10, 133); }},
+              {"an_empty_cell_of_128", {}, [](ProjectState& project) { project.Lands.Set(10, 10, 128); }},
+              {"waters",
+               {"water"},
+               [](ProjectState& project) {
+                 project.Waters.Set(10, 10, 133);
+                 project.NoOfWaters = 1;
+               }},
+              {"waters_not_counted", {}, [](ProjectState& project) { project.Waters.Set(10, 10, 133); }},
+              {"polygons_by_head",
+               {"lwm", "tex", "vtp-polys", "exc-polys"},
+               [](ProjectState& project) {
+                 for (const char* type : {"Other//1//", "VTP//4//1280//", "TEX//a//", "LWM//Water//", ""})
+                   project.Polys.push_back(SelectedPoly(type));
+               }},
+              {"the_rest_in_run_order",
+               {"fills", "vtp-lines", "meshes", "objects", "excludes"},
+               [](ProjectState& project) {
+                 project.Excludes.emplace_back().Selected = true;
+                 project.Objects.emplace_back().Selected = true;
+                 project.Meshes.emplace_back().Selected = true;
+                 project.Lines = {ALine().Vtp("4", "1280").Selected()};
+                 project.Fills.emplace_back().Selected = true;
+               }}};
+  for (const auto& row : rows) {
+    ProjectState project;
+    row.fill(project);
+    EXPECT_EQ(StepsWithData(project), row.steps) << row.name;
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Rows, StepData,
-    testing::Values(
-        DataRow{"nothing", {}, [](ProjectState&) {}},
-        DataRow{"unselected",
-                {},
-                [](ProjectState& project) {
-                  project.Lines = {ALine().Vtp("4", "1280")};
-                  project.Fills.emplace_back();
-                  project.Polys.emplace_back().Type = "LWM//";
-                  project.Lands.Set(10, 10, 5);
-                }},
-        DataRow{"lands", {"land"}, [](ProjectState& project) { project.Lands.Set(10, 10, 133); }},
-        DataRow{"an_empty_cell_of_128", {}, [](ProjectState& project) { project.Lands.Set(10, 10, 128); }},
-        DataRow{"waters",
-                {"water"},
-                [](ProjectState& project) {
-                  project.Waters.Set(10, 10, 133);
-                  project.NoOfWaters = 1;
-                }},
-        DataRow{"waters_not_counted", {}, [](ProjectState& project) { project.Waters.Set(10, 10, 133); }},
-        DataRow{"polygons_by_head",
-                {"lwm", "tex", "vtp-polys", "exc-polys"},
-                [](ProjectState& project) {
-                  for (const char* type : {"Other//1//", "VTP//4//1280//", "TEX//a//", "LWM//Water//", ""})
-                    project.Polys.push_back(SelectedPoly(type));
-                }},
-        DataRow{"the_rest_in_run_order",
-                {"fills", "vtp-lines", "meshes", "objects", "excludes"},
-                [](ProjectState& project) {
-                  project.Excludes.emplace_back().Selected = true;
-                  project.Objects.emplace_back().Selected = true;
-                  project.Meshes.emplace_back().Selected = true;
-                  project.Lines = {ALine().Vtp("4", "1280").Selected()};
-                  project.Fills.emplace_back().Selected = true;
-                }}),
-    [](const auto& row) { return row.param.name; });
 
 TEST(CompileSteps, StandInTheirFixedOrder) {
   std::string order;

@@ -74,6 +74,8 @@ TEST_F(ProjectFiles, ThatAreNoneAreRefusedWithAMessage) {
     std::string text;  // part of the message
   } rows[] = {{"EMPTY.LSP", "", "Not a Valid Landsmith File!"},
               {"TEXT.LSP", "[Main]\r\nName=x", "Not a Valid Landsmith File!"},
+              {"SHORT.LSP", "\5", "Not a Valid Landsmith File!"},
+              {"OTHER.LSP", std::string("\6\0LS205", 7), "Not a Valid Landsmith File!"},
               {"NEWER.LSP", std::string("\5\0LS206", 7), "Not a Valid Landsmith File!"},
               {"CUT.LSP", whole.substr(0, whole.size() - 1), "CUT.LSP"}};
   for (const auto& row : rows) {
@@ -83,13 +85,6 @@ TEST_F(ProjectFiles, ThatAreNoneAreRefusedWithAMessage) {
     EXPECT_EQ(m_dialogs.messages[0].kind, MessageKind::Error);
     EXPECT_THAT(m_dialogs.messages[0].text, HasSubstr(row.text));
   }
-}
-
-TEST_F(ProjectFiles, ThatAreMissingAreNamed) {
-  const auto path = m_folder / "GONE.LSP";
-  EXPECT_FALSE(OpenProjectFile(path, m_settings, m_dialogs));
-  ASSERT_EQ(m_dialogs.messages.size(), 1U);
-  EXPECT_EQ(m_dialogs.messages[0].text, PathText(path) + "\n\ndoes not exist !");
 }
 
 TEST_F(ProjectFiles, OfOlderVersionsAreAskedAboutAndKept) {
