@@ -28,7 +28,7 @@ protected:
   }
   std::filesystem::path Copied() const { return rig.folder / "out" / (std::string(Name) + ".BGL"); }
   void ToolWrites(const std::string& file) {
-    rig.tools.answer = [this, file](const ScriptedTools::Call&) {
+    rig.tools.answer = [this, file](const std::string&) {
       WriteWholeFile(rig.folders.Work() / file, "bgl");
       return 0;
     };
@@ -52,9 +52,9 @@ TEST_F(CompileStepRun, WritesRunsAndCopies) {
   EXPECT_EQ(ReadWholeFile(Work(".scm")),
             "; Stra\xdf"
             "e\r\n");
-  ASSERT_EQ(rig.tools.calls.size(), 1U);
-  EXPECT_EQ(rig.tools.calls[0].command, "scasm work\\My_Project_VTPL.scm -s -l");
-  EXPECT_EQ(rig.tools.calls[0].folder, rig.folders.Tools());
+  ASSERT_EQ(rig.tools.ran.size(), 1U);
+  EXPECT_EQ(rig.tools.ran[0], "scasm work\\My_Project_VTPL.scm -s -l");
+  EXPECT_EQ(rig.tools.folder, rig.folders.Tools());
   EXPECT_EQ(ReadWholeFile(Copied()), "bgl");
   const std::vector<std::filesystem::path> written{Work(".scm"), rig.folders.Work() / "my_project_vtpl.bgl",
                                                    Copied()};
@@ -73,7 +73,7 @@ TEST_F(CompileStepRun, TheOldOutputIsGoneBeforeTheToolStarts) {
   OldOutput("MY_PROJECT_VTPL.bgl");
   OldOutput(std::string(Name) + ".BGL");
   bool seen = false;
-  rig.tools.answer = [&](const ScriptedTools::Call&) {
+  rig.tools.answer = [&](const std::string&) {
     seen = FindInFolder(rig.folders.Work(), std::string(Name) + ".BGL").has_value();
     return 1;
   };
@@ -85,30 +85,38 @@ TEST_F(CompileStepRun, AFailureOffersTheReport) {
   const std::string question =
       "There was a compilation error in this project!\nDo you want to read a SCASM report?";
   rig.options.CopyBGL = true;
-  rig.tools.answer = [this](const ScriptedTools::Call&) {
+  rig.tools.answer = [this](const std::string&) {
     WriteWholeFile(Work(".BGL"), "half");
     return 3;
   };
   EXPECT_FALSE(CompileStep(rig.Context(), Request()));
   EXPECT_EQ(rig.dialogs.questions, std::vector{question});
-  EXPECT_EQ(rig.tools.calls.size(), 1U) << "Cancel reads nothing";
+  EXPECT_EQ(rig.tools.ran.size(), 1U) << "Cancel reads nothing";
   EXPECT_FALSE(std::filesystem::exists(Work(".BGL"))) << "half a file is no output";
   EXPECT_FALSE(std::filesystem::exists(Copied()));
   EXPECT_TRUE(rig.report.Failed);
 
   rig.dialogs.answers = {true};
   EXPECT_FALSE(CompileStep(rig.Context(), Request()));
-  ASSERT_EQ(rig.tools.calls.size(), 3U);
-  EXPECT_EQ(rig.tools.calls[2].command, "notepad SCAERROR.LOG");
-  EXPECT_EQ(rig.tools.calls[2].folder, rig.folders.Tools());
+  ASSERT_EQ(rig.tools.ran.size(), 3U);
+  EXPECT_EQ(rig.tools.ran[2], "notepad SCAERROR.LOG");
+  EXPECT_EQ(rig.tools.folder, rig.folders.Tools());
 }
 
-TEST_F(CompileStepRun, AMissingToolHasBeenToldAlready) {
-  rig.tools.answer = [](const ScriptedTools::Call&) { return ToolMissing; };
-  EXPECT_FALSE(CompileStep(rig.Context(), Request()));
-  EXPECT_TRUE(rig.dialogs.questions.empty());
-  EXPECT_TRUE(rig.dialogs.messages.empty());
-  EXPECT_TRUE(rig.report.Failed);
+// A missing tool has been told already, a stop was the user's own.
+TEST_F(CompileStepRun, AToolThatIsMissingOrStoppedLeavesNoOutputAndAsksNothing) {
+  for (const int result : {ToolMissing, -1}) {
+    rig.report = {};
+    rig.tools.answer = [&](const std::string&) {
+      if (result != ToolMissing) WriteWholeFile(Work(".BGL"), "half");
+      return result;
+    };
+    EXPECT_FALSE(CompileStep(rig.Context(), Request()));
+    EXPECT_FALSE(std::filesystem::exists(Work(".BGL")));
+    EXPECT_TRUE(rig.dialogs.questions.empty());
+    EXPECT_TRUE(rig.dialogs.messages.empty());
+    EXPECT_TRUE(rig.report.Failed);
+  }
 }
 
 TEST_F(CompileStepRun, SuccessWithoutAFileIsAnError) {
@@ -116,17 +124,6 @@ TEST_F(CompileStepRun, SuccessWithoutAFileIsAnError) {
   EXPECT_EQ(OnlyMessage(), "SCASM reported success but made no file My_Project_VTPL.BGL!");
   EXPECT_EQ(rig.dialogs.messages[0].kind, MessageKind::Error);
   EXPECT_TRUE(rig.report.Failed);
-}
-
-TEST_F(CompileStepRun, ACancelledToolLeavesNoOutput) {
-  rig.tools.answer = [this](const ScriptedTools::Call&) {
-    WriteWholeFile(Work(".BGL"), "half");
-    return -1;
-  };
-  EXPECT_FALSE(CompileStep(rig.Context(), Request()));
-  EXPECT_FALSE(std::filesystem::exists(Work(".BGL")));
-  EXPECT_TRUE(rig.dialogs.messages.empty());
-  EXPECT_TRUE(rig.dialogs.questions.empty());
 }
 
 TEST_F(CompileStepRun, AFailedCopyIsToldAndKeepsTheOutput) {
@@ -146,7 +143,7 @@ TEST_F(CompileStepRun, SourceOnlyRunsNothingAndDropsTheStaleOutput) {
   rig.options.Mode = CompileMode::SourceOnly;
   OldOutput(std::string(Name) + ".BGL");
   EXPECT_TRUE(CompileStep(rig.Context(), Request()));
-  EXPECT_TRUE(rig.tools.calls.empty());
+  EXPECT_TRUE(rig.tools.ran.empty());
   EXPECT_FALSE(std::filesystem::exists(Work(".BGL")));
   EXPECT_EQ(rig.report.Written, std::vector{Work(".scm")});
 }
@@ -189,25 +186,6 @@ TEST(RunSteps, RunsInTableOrderAndGoesOnAfterAFailure) {
   EXPECT_EQ(rig.dialogs.messages[0].text, "the disk is full");
   EXPECT_EQ(rig.dialogs.messages[0].kind, MessageKind::Error);
   EXPECT_TRUE(rig.report.Failed);
-}
-
-class StopAfter final : public Progress {
-public:
-  explicit StopAfter(int steps) : m_left(steps) {}
-  bool Step(double, std::string_view) override { return m_left-- > 0; }
-
-private:
-  int m_left;
-};
-
-TEST(RunSteps, ACancelledRunEndsAfterThePresentStep) {
-  Ran().clear();
-  CompileRig rig;
-  StopAfter progress(1);
-  const CompileContext context{rig.project, rig.settings, rig.folders, rig.tools,
-                               rig.dialogs, progress,     rig.options, rig.report};
-  RunSteps(Steps, {"first", "last"}, context);
-  EXPECT_EQ(Ran(), std::vector<std::string>{"first"});
 }
 
 }  // namespace

@@ -45,14 +45,6 @@ TEST_F(DisplayTest, ARepaintWithinARepaintDoesNothing) {
   EXPECT_EQ(canvas.presented, before);
 }
 
-TEST_F(DisplayTest, WithoutAProjectTheCanvasHasTheWorkspaceColor) {
-  editor.Canvas().DisplayAll();
-  EXPECT_EQ(canvas.cleared.back(), 0xFFFFFF);
-  session.project.ProjectOpen = false;
-  editor.Canvas().DisplayAll();
-  EXPECT_EQ(canvas.cleared.back(), editor.Canvas().Colors.Workspace);
-}
-
 TEST_F(DisplayTest, AWideSegmentIsAQuadAndItsJointIsFilledFromTheThirdVertexOn) {
   AddLine({{-100, 0}, {0, 0}, {0, 100}});
   const float metres = static_cast<float>(8 / session.view.Scale.PixelsPerMeter);

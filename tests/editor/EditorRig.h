@@ -5,54 +5,16 @@
 
 #include "editor/Editor.h"
 #include "support/Builders.h"
+#include "support/RecordingHost.h"
 #include "support/RecordingSurface.h"
+#include "support/RecordingTools.h"
 #include "support/ScriptedDialogs.h"
 #include "support/TempFolder.h"
 
-#include <functional>
-#include <map>
-#include <string>
+#include <initializer_list>
 #include <vector>
 
 namespace landsmith::test {
-
-class NoTools final : public ToolRunner {
-public:
-  int RunAndWait(std::string_view, const std::filesystem::path&, Progress&) override { return ToolMissing; }
-  bool Start(std::string_view, const std::filesystem::path&) override { return false; }
-  void OpenDocument(std::string_view) override {}
-};
-
-class RecordingHost final : public EditorHost {
-public:
-  std::vector<PopupTarget> menus;
-  std::vector<std::optional<std::size_t>> lineForms;
-  std::map<TimerId, int> running;  ///< timers that tick when the test says so
-  CursorShape cursor = CursorShape::Arrow;
-  StatusPanels status;
-  bool acceptProperties = false;
-  int propertiesShown = 0;
-  bool hasTimers = false;
-  std::function<void()> inProperties;  ///< what the user does in the dialog
-
-  void RefreshUi() override {}
-  void SetStatus(const StatusPanels& panels) override { status = panels; }
-  void SetCursor(CursorShape shape) override { cursor = shape; }
-  void ShowContextMenu(const PopupTarget& target) override { menus.push_back(target); }
-  void ShowLineProperties(std::optional<std::size_t> line) override { lineForms.push_back(line); }
-  bool ShowProjectProperties() override {
-    ++propertiesShown;
-    if (inProperties) inProperties();
-    return acceptProperties;
-  }
-  int ToolbarHeight() const override { return 30; }
-  int StatusBarHeight() const override { return 20; }
-  bool StartTimer(TimerId timer, int milliseconds) override {
-    if (hasTimers) running[timer] = milliseconds;
-    return hasTimers;
-  }
-  void StopTimer(TimerId timer) override { running.erase(timer); }
-};
 
 class EditorRig {
 public:
@@ -130,7 +92,7 @@ public:
 
   TempFolder folder;
   ScriptedDialogs dialogs;
-  NoTools tools;
+  RecordingTools tools;
   RecordingHost host;
   RecordingCanvas canvas;
   Session session;

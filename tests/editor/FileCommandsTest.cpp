@@ -194,6 +194,8 @@ TEST_F(FileCommands, ANewProjectLivesOnceItsPropertiesAreAccepted) {
   EXPECT_EQ(session.view.LatDispCenter, 51.5) << "settings are read anew";
   EXPECT_TRUE(session.project.ClassGridVIEW);
   EXPECT_EQ(session.project.PhotoSeasons, 1281);
+  EXPECT_EQ(session.project.BGL1ProjectFolder, session.settings.BGL1Folder);
+  EXPECT_EQ(session.project.BGL2ProjectFolder, session.settings.BGL2Folder);
   EXPECT_FALSE(editor.Save());
   EXPECT_TRUE(dialogs.fileRequests.empty());
 
@@ -213,14 +215,6 @@ TEST_F(FileCommands, ANewProjectLivesOnceItsPropertiesAreAccepted) {
   EXPECT_EQ(session.view.LonDispCenter, 5);
   EXPECT_DOUBLE_EQ(session.view.Classes.LandNorth, ClassWindowOf(60, 5).LandNorth);
   EXPECT_FALSE(session.project.Dirty);
-}
-
-TEST_F(FileCommands, AtTheStartNoDialogOpens) {
-  editor.NewProject(true);
-  EXPECT_EQ(host.propertiesShown, 0);
-  EXPECT_FALSE(editor.HasProject());
-  Click({0, 0}, MouseButton::Right);
-  EXPECT_TRUE(host.menus.empty()) << "the canvas is dead";
 }
 
 TEST_F(FileCommands, AppendingKeepsTheViewAndCountsAsSaved) {

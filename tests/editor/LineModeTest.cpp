@@ -10,24 +10,6 @@ protected:
   LineModeTest() { editor.ChooseMode(ModeId::Line); }
 };
 
-TEST_F(LineModeTest, ClicksDrawALineThatTheRightButtonEnds) {
-  session.settings.DefPWidth = 12;
-  Click({-100, 0}).Click({0, 50});
-  ASSERT_EQ(Lines().size(), 1U);
-  Click({100, 0}).Click({110, 40}, MouseButton::Right);
-  ASSERT_EQ(Lines().size(), 1U);
-  const LineRec& line = Lines()[0];
-  ASSERT_EQ(line.Points.size(), 3U);
-  EXPECT_EQ(Place(0, 0).x, -100);
-  EXPECT_EQ(Place(0, 2).x, 100);
-  EXPECT_EQ(line.Points[2].Wid, 12);
-  EXPECT_EQ(line.Color, session.settings.LnColorUns);
-  EXPECT_DOUBLE_EQ(line.Box.SLat, At(0, 50).lat);
-  EXPECT_TRUE(session.project.Dirty);
-  Click({100, 100});
-  EXPECT_EQ(Lines()[0].Points.size(), 3U) << "the next click begins another line";
-}
-
 TEST_F(LineModeTest, OneClickMakesNoLine) {
   Click({-100, 0}).Key(27);
   EXPECT_TRUE(Lines().empty());
@@ -82,33 +64,33 @@ TEST_F(LineModeTest, ADragWithShiftNearTheEdgeDoesNotJump) {
   EXPECT_NEAR(Lines()[0].Points[0].Lon, At(302, 0).lon, 1e-9);
 }
 
-struct KeyRow {
-  const char* name;
-  int key;
-  std::size_t points;  ///< of the line pressed on
-  std::size_t lines;
-  float width;  ///< of its third vertex
-};
-class PointKeys : public testing::TestWithParam<KeyRow>, public EditorRig {};
-TEST_P(PointKeys, EditTheVertexUnderTheClick) {
-  const KeyRow& row = GetParam();
-  AddLine({{-200, 0}, {-100, 0}, {0, 0}, {100, 0}, {200, 0}});
-  editor.ChooseMode(ModeId::Line);
-  Key(row.key).Click({0, 0});
-  ASSERT_EQ(Lines().size(), row.lines);
-  ASSERT_EQ(Lines()[0].Points.size(), row.points);
-  EXPECT_FLOAT_EQ(Lines()[0].Points[2].Wid, row.width);
-  EXPECT_FALSE(editor.GestureAlive());
-  EXPECT_EQ(session.project.Dirty, true);
-  editor.KeyUp({row.key, false, false, false});
-  Click({-200, 0});
-  EXPECT_EQ(Lines()[0].Points.size(), row.points) << "the key counts while held alone";
+TEST_F(LineModeTest, KeysEditTheVertexUnderTheClick) {
+  struct Row {
+    const char* name;
+    int key;
+    std::size_t points;  ///< of the line pressed on
+    std::size_t lines;
+    float width;  ///< of its third vertex
+  };
+  for (const Row& row : {Row{"D deletes", 68, 4, 1, 10}, Row{"B cuts", 66, 3, 2, 10},
+                         Row{"minus narrows", 109, 5, 1, 10 / 1.5F}, Row{"plus widens", 107, 5, 1, 15}}) {
+    SCOPED_TRACE(row.name);
+    session.project.Lines.clear();
+    session.project.Dirty = false;
+    session.tool.Selected = {};
+    AddLine({{-200, 0}, {-100, 0}, {0, 0}, {100, 0}, {200, 0}});
+    editor.ChooseMode(ModeId::Line);
+    Key(row.key).Click({0, 0});
+    ASSERT_EQ(Lines().size(), row.lines);
+    ASSERT_EQ(Lines()[0].Points.size(), row.points);
+    EXPECT_FLOAT_EQ(Lines()[0].Points[2].Wid, row.width);
+    EXPECT_FALSE(editor.GestureAlive());
+    EXPECT_TRUE(session.project.Dirty);
+    editor.KeyUp({row.key, false, false, false});
+    Click({-200, 0});
+    EXPECT_EQ(Lines()[0].Points.size(), row.points) << "the key counts while held alone";
+  }
 }
-INSTANTIATE_TEST_SUITE_P(Keys, PointKeys,
-                         testing::Values(KeyRow{"D_deletes", 68, 4, 1, 10}, KeyRow{"B_cuts", 66, 3, 2, 10},
-                                         KeyRow{"minus_narrows", 109, 5, 1, 10 / 1.5F},
-                                         KeyRow{"plus_widens", 107, 5, 1, 15}),
-                         [](const auto& row) { return row.param.name; });
 
 TEST_F(LineModeTest, InsertingTakesTheSegmentUnderTheClick) {
   AddLine({{-200, 0}, {0, 0}, {200, 0}});

@@ -27,7 +27,7 @@ protected:
 
   TempFolder folder;
   ScriptedDialogs dialogs;
-  NoTools tools;
+  RecordingTools tools;
   Session session{Folders(), dialogs, tools};
 };
 
@@ -65,12 +65,6 @@ TEST_F(SessionStart, TakesSettingsRecentFilesAndTheConfiguredSimulator) {
   EXPECT_EQ(session.folders.FSPath, folder / "fs");
   EXPECT_FALSE(session.folders.SimulatorIsStandIn);
   EXPECT_EQ(session.recent[0], "C:\\a.LSP");
-}
-
-TEST_F(SessionStart, ABadNumberInTheSettingsEndsIt) {
-  std::filesystem::create_directories(App());
-  WriteIniKey(App() / "Landsmith.ini", "Main", "DefAlt", "high");
-  EXPECT_THROW(StartSession(session, ShippedData), RuntimeError);
 }
 
 TEST_F(SessionStart, AMissingSimulatorEndsIt) {

@@ -19,7 +19,7 @@ struct CompileDialog : testing::Test {
     rig.session.project.Lines.push_back(
         ALine().Named("Road").Vtp("4", "12").Through({{47.5, 8.1}, {47.51, 8.12}}).Selected());
     rig.tools.answer = [this](const std::string& command) {
-      if (command.starts_with("scasm")) WriteFile(rig.session.folders.Work() / "Coast_VTPL.BGL", "bgl");
+      if (command.starts_with("scasm")) WriteWholeFile(rig.session.folders.Work() / "Coast_VTPL.BGL", "bgl");
       return 0;
     };
   }
@@ -59,11 +59,11 @@ TEST_F(CompileDialog, RunsTheStepCopiesTheOutputAndStaysWithTheText) {
   Press(dialog, "cmdCompile");
   ASSERT_EQ(rig.tools.ran.size(), 1U);
   EXPECT_EQ(rig.tools.ran[0], "scasm work\\Coast_VTPL.scm -s -l");
-  EXPECT_EQ(FileText(rig.folder / "out" / "Coast_VTPL.BGL"), "bgl");
+  EXPECT_EQ(ReadWholeFile(rig.folder / "out" / "Coast_VTPL.BGL"), "bgl");
   EXPECT_TRUE(dialog.isVisible());
   EXPECT_EQ(Find<QTabWidget>(dialog, "tabBGL").currentIndex(), 1);
   EXPECT_GE(Find<QListWidget>(dialog, "lstFiles").count(), 1);
-  QString source = QString::fromStdString(FileText(rig.session.folders.Work() / "Coast_VTPL.scm"));
+  QString source = QString::fromStdString(ReadWholeFile(rig.session.folders.Work() / "Coast_VTPL.scm"));
   ASSERT_FALSE(source.isEmpty());
   EXPECT_EQ(Find<QPlainTextEdit>(dialog, "txtSource").toPlainText(), source.remove('\r'));
   EXPECT_EQ(Find<QAbstractButton>(dialog, "cmdCancel").text(), "Close");
@@ -118,7 +118,7 @@ TEST_F(CompileDialog, TexturesAreCopiedOnlyWhileBitmapsAreMade) {
 
 TEST(SourceExcerptTest, LongTextsAreCutBehindALine) {
   const TempFolder folder;
-  WriteFile(folder / "a.scm", "one\r\ntwo\r\nthree\xE9\r\n");
+  WriteWholeFile(folder / "a.scm", "one\r\ntwo\r\nthree\xE9\r\n");
   const SourceExcerpt cut = ReadSourceExcerpt(folder / "a.scm", 12);
   EXPECT_EQ(cut.Text, "one\r\ntwo\r\n");
   EXPECT_FALSE(cut.IsWhole);

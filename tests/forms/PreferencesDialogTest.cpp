@@ -1,30 +1,18 @@
 // Preferences: what is checked, what is stored, what is written to the settings file.
 #include "DialogRig.h"
 #include "core/IniFile.h"
-#include "editor/Editor.h"
 #include "forms/ColorSwatch.h"
 #include "forms/frmPreferences.h"
+#include "support/RecordingHost.h"
 
 #include <QSlider>
 
 namespace landsmith::test {
 namespace {
 
-class SilentHost final : public EditorHost {
-public:
-  void RefreshUi() override {}
-  void SetStatus(const StatusPanels&) override {}
-  void SetCursor(CursorShape) override {}
-  void ShowContextMenu(const PopupTarget&) override {}
-  void ShowLineProperties(std::optional<std::size_t>) override {}
-  bool ShowProjectProperties() override { return false; }
-  int ToolbarHeight() const override { return 0; }
-  int StatusBarHeight() const override { return 0; }
-};
-
 struct PreferencesDialog : testing::Test {
   DialogRig rig;
-  SilentHost host;
+  RecordingHost host;
   Editor editor{rig.session, rig.canvas, host};
   frmPreferences dialog{rig.session, editor, nullptr};
 
@@ -51,7 +39,7 @@ TEST_F(PreferencesDialog, WidthLimitsKeepTheDialogOpen) {
 }
 
 TEST_F(PreferencesDialog, OkStoresEveryPageAndWritesTheFile) {
-  WriteFile(rig.session.folders.IniPath(), "[Photo]\r\nSpringEnd=170\r\n");
+  WriteWholeFile(rig.session.folders.IniPath(), "[Photo]\r\nSpringEnd=170\r\n");
   rig.dialogs.colors = {Rgb(1, 2, 3), std::nullopt};
   rig.dialogs.folders = {rig.folder / "out"};
   Press(dialog, "ckAskDelete");

@@ -1,4 +1,5 @@
 // The program's path from end to end, by mouse and buttons alone: draw a road, give it a type, compile it.
+#include "Controls.h"
 #include "WindowRig.h"
 #include "core/Text.h"
 
@@ -16,14 +17,8 @@
 namespace landsmith {
 namespace {
 
+using test::Find;
 using test::WindowRig;
-
-template <class Control>
-Control& Find(QWidget& dialog, const char* name) {
-  auto* control = dialog.findChild<Control*>(name);
-  if (!control) throw std::runtime_error(std::string("no control ") + name);
-  return *control;
-}
 
 /// Works on the dialog that opens next; what goes wrong there must not leave it open for ever.
 class InDialog {

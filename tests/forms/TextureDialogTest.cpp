@@ -4,6 +4,7 @@
 #include "forms/frmTerrain.h"
 
 #include <QComboBox>
+#include <QImage>
 #include <QLabel>
 #include <QListWidget>
 #include <QPixmap>
@@ -21,7 +22,7 @@ struct TextureDialogs : testing::Test {
     picture.fill(Qt::red);
     picture.save(QString::fromStdString((rig.session.folders.Bitmaps() / "na.bmp").string()));
     picture.save(QString::fromStdString((rig.session.folders.Bitmaps() / "Road.BMP").string()));
-    WriteFile(rig.session.folders.Tools() / "lines.txt", "[Texture.12]\r\n\r\n");
+    WriteWholeFile(rig.session.folders.Tools() / "lines.txt", "[Texture.12]\r\n\r\n");
   }
 };
 
@@ -54,8 +55,8 @@ TEST_F(TextureDialogs, AFailedConversionShowsNoPictureAndAMissingToolIsAskedForO
 
 TEST_F(TextureDialogs, TheNamedTextHoldsTheSeasonsInTheSimulatorsOrder) {
   std::filesystem::create_directories(rig.session.folders.FSTexturePath());
-  WriteFile(rig.session.folders.FSTexturePath() / "snow.bmp", "x");
-  WriteFile(rig.session.folders.FSTexturePath() / "readme.txt", "x");
+  WriteWholeFile(rig.session.folders.FSTexturePath() / "snow.bmp", "x");
+  WriteWholeFile(rig.session.folders.FSTexturePath() / "readme.txt", "x");
   frmNamesT dialog(rig.session, TextureKind::Line, 0, nullptr);
   EXPECT_EQ(dialog.TextureName(),
             "\"001b2wa1.bmp;001b2wa1.bmp;001b2wa1.bmp;001b2wa1.bmp;001b2wa1.bmp;001b2wa1.bmp\" 0 0 0 4 ");
@@ -83,10 +84,8 @@ TEST_F(TextureDialogs, AddingToTheCatalogueAsksForANameAndAppendsASection) {
   EXPECT_EQ(rig.dialogs.questions.back(),
             "Add this \nCustom Line Texture\nto the set of pre-assembled textures?\n"
             "If so enter a name to refer to this texture!");
-  EXPECT_EQ(
-      FileText(rig.session.folders.Tools() / "lines.txt"),
-      "[Texture.12]\r\n\r\n[Texture.41]\r\nTitle=Harbour\r\nColor=1 2 3\r\nTextures=na.bmp\r\nNamePack=" +
-          dialog.TextureName() + "\r\n\r\n");
+  EXPECT_EQ(ReadTextureCatalog(rig.session.folders.Tools() / "lines.txt").back(),
+            (TextureItem{41, "na.bmp", "Harbour", dialog.TextureName(), 1, 2, 3}));
   EXPECT_EQ(rig.session.lineTextures.back().Id, 41);
 }
 

@@ -7,6 +7,7 @@
 #include "forms/frmStart.h"
 #include "platform/Paths.h"
 #include "platform/Tools.h"
+#include "support/RecordingTools.h"
 #include "support/ScriptedDialogs.h"
 #include "support/TempFolder.h"
 #include "wiring/ProjectStore.h"
@@ -19,19 +20,8 @@
 
 #include <memory>
 #include <string>
-#include <vector>
 
 namespace landsmith::test {
-
-/// Documents that were opened; nothing is run.
-class NoTools final : public ToolRunner {
-public:
-  std::vector<std::string> opened;
-
-  int RunAndWait(std::string_view, const std::filesystem::path&, Progress&) override { return ToolMissing; }
-  bool Start(std::string_view, const std::filesystem::path&) override { return false; }
-  void OpenDocument(std::string_view address) override { opened.emplace_back(address); }
-};
 
 class WindowRig {
 public:
@@ -90,7 +80,7 @@ public:
 
   TempFolder folder;
   ScriptedDialogs dialogs;
-  NoTools tools;
+  RecordingTools tools;
 
 private:
   SystemToolRunner m_standIns;
