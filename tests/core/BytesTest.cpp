@@ -16,6 +16,7 @@ TEST(ByteWriter, CountsATextInBytesOfTheCodePage) {
   ByteWriter out;
   out.Str16(degrees);
   EXPECT_EQ(out.Size(), 2u + 65535u);
+  EXPECT_THROW(out.PatchU32(out.Size() - 3, 0), RuntimeError) << "one byte is missing";
   EXPECT_THROW(out.Str16(degrees + "x"), RuntimeError);
 }
 

@@ -186,6 +186,7 @@ TEST_F(FileCommands, ExitAsksOnlyWhenSomethingWouldBeLost) {
 TEST_F(FileCommands, ANewProjectLivesOnceItsPropertiesAreAccepted) {
   WriteIniKey(Ini(), "Main", "LatLandCenter", "51.5");
   WriteIniKey(Ini(), "Main", "ClassGridVIEW", "True");
+  WriteIniKey(Ini(), "Main", "BGL2Folder", PathText(folder / "second"));
   editor.NewProject();
   EXPECT_EQ(host.propertiesShown, 1);
   EXPECT_FALSE(editor.HasProject());
@@ -215,6 +216,14 @@ TEST_F(FileCommands, ANewProjectLivesOnceItsPropertiesAreAccepted) {
   EXPECT_EQ(session.view.LonDispCenter, 5);
   EXPECT_DOUBLE_EQ(session.view.Classes.LandNorth, ClassWindowOf(60, 5).LandNorth);
   EXPECT_FALSE(session.project.Dirty);
+}
+
+TEST_F(FileCommands, AtTheStartNoDialogOpens) {
+  editor.NewProject(true);
+  EXPECT_EQ(host.propertiesShown, 0);
+  EXPECT_FALSE(editor.HasProject());
+  Click({0, 0}, MouseButton::Right);
+  EXPECT_TRUE(host.menus.empty()) << "the canvas is dead";
 }
 
 TEST_F(FileCommands, AppendingKeepsTheViewAndCountsAsSaved) {
