@@ -3,6 +3,7 @@
 #include "core/Numbers.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
+#include "vector/PathSelection.h"
 #include "wiring/ProjectStore.h"
 
 #include <filesystem>
@@ -69,31 +70,21 @@ void SaveForCommand(BatchRun& run, ProjectState& project, std::string_view path)
 namespace {
 
 template <class Record>
-void SelectEach(std::vector<Record>& records) {
-  for (Record& record : records)
-    record.Selected = true;
-}
-
-template <class PointType>
-void SelectEach(std::vector<PathRec<PointType>>& paths) {
-  for (auto& path : paths) {
-    path.Selected = true;
-    for (PointType& point : path.Points)
-      point.Selected = false;
-  }
+void SelectEach(RecordList<Record>& records) {
+  for (std::size_t i = 0; i < records.size(); ++i)
+    records.Edit(i).Selected = true;
 }
 
 void SelectCells(ClassGrid& grid) {
-  if (!grid.IsAllocated()) return;
-  for (std::uint8_t& sample : grid.Samples())
-    if (sample != 0) sample |= 128;
+  grid.ChangeSet([](std::uint8_t sample) { return static_cast<std::uint8_t>(sample | 128); });
 }
 
 }  // namespace
 
 void SelectAllButMaps(ProjectState& project) {
-  SelectEach(project.Lines);
-  SelectEach(project.Polys);
+  Selection notKept;
+  SelectAllPaths(project.Lines, true, notKept);
+  SelectAllPaths(project.Polys, true, notKept);
   SelectEach(project.Fills);
   SelectEach(project.Excludes);
   SelectEach(project.Photos);

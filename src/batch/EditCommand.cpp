@@ -21,8 +21,8 @@ void SnapLod21(BatchRun&, ProjectState& project) {
 }
 
 void ReverseLines(BatchRun&, ProjectState& project) {
-  for (LineRec& line : project.Lines)
-    if (line.Selected) ReverseLine(line);
+  for (std::size_t i = 0; i < project.Lines.size(); ++i)
+    if (project.Lines[i].Selected) ReverseLine(project.Lines.Edit(i));
 }
 
 void JoinSelectedLines(BatchRun& run, ProjectState& project) {

@@ -160,7 +160,7 @@ void Put(JsonWriter& json, const ObjectRec& object) {
 }
 
 template <class Record>
-void PutAll(JsonWriter& json, std::string_view name, const std::vector<Record>& records) {
+void PutAll(JsonWriter& json, std::string_view name, const RecordList<Record>& records) {
   json.Key(name).BeginArray();
   for (const Record& record : records) {
     json.BeginObject();
@@ -172,7 +172,11 @@ void PutAll(JsonWriter& json, std::string_view name, const std::vector<Record>& 
 
 void PutSamples(JsonWriter& json, std::string_view name, const ClassGrid& grid) {
   json.Key(name).BeginArray();
-  const auto& samples = grid.StoredSamples();
+  if (!grid.IsAllocated()) {
+    json.EndArray();
+    return;
+  }
+  const std::vector<std::uint8_t> samples = grid.Samples();
   for (std::size_t at = 0; at < samples.size(); ++at) {
     if (samples[at] == 0) continue;
     json.BeginArray()

@@ -68,21 +68,19 @@ PathSnap SnapPoly(PolyRec& poly) {
 }
 
 template <class Path, class Snap>
-void SnapSelected(std::vector<Path>& paths, SnapResult& total, Snap snap) {
-  std::size_t kept = 0;
+void SnapSelected(RecordList<Path>& paths, SnapResult& total, Snap snap) {
+  std::vector<bool> gone(paths.size());
   for (std::size_t i = 0; i < paths.size(); ++i) {
-    Path& path = paths[i];
-    if (path.Selected) {
-      total.Verified += static_cast<std::int32_t>(path.Points.size());
-      const PathSnap result = snap(path);
-      total.Eliminated += result.Eliminated;
-      if (result.Gone) continue;
-      SetPathBounds(path);
-    }
-    if (kept != i) paths[kept] = std::move(path);
-    ++kept;
+    if (!paths[i].Selected) continue;
+    Path& path = paths.Edit(i);
+    total.Verified += static_cast<std::int32_t>(path.Points.size());
+    const PathSnap result = snap(path);
+    total.Eliminated += result.Eliminated;
+    gone[i] = result.Gone;
+    if (!result.Gone) SetPathBounds(path);
   }
-  paths.resize(kept);
+  std::size_t next = 0;
+  paths.EraseIf([&](const Path&) { return gone[next++]; });
 }
 
 }  // namespace

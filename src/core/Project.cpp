@@ -15,21 +15,28 @@ namespace {
 
 template <class Records>
 void Deselect(Records& records) {
-  for (auto& record : records)
-    record.Selected = false;
+  for (std::size_t i = 0; i < records.size(); ++i)
+    if (records[i].Selected) records.Edit(i).Selected = false;
 }
 
 template <class Paths>
 void DeselectWithPoints(Paths& paths) {
   Deselect(paths);
-  for (auto& path : paths)
-    Deselect(path.Points);
+  for (std::size_t i = 0; i < paths.size(); ++i) {
+    if (!HasSelectedPoint(paths[i])) continue;
+    for (auto& point : paths.Edit(i).Points)
+      point.Selected = false;
+  }
 }
 
 void Deselect(ClassGrid& grid) {
-  if (!grid.IsAllocated()) return;
-  for (std::uint8_t& sample : grid.Samples())
-    sample &= 0x7F;
+  grid.ChangeSet([](std::uint8_t sample) { return static_cast<std::uint8_t>(sample & 0x7F); });
+}
+
+template <class Record>
+void ComputeBoxes(RecordList<Record>& records, GeoBox (*boxOf)(const Record&)) {
+  for (std::size_t i = 0; i < records.size(); ++i)
+    records.Edit(i).Box = boxOf(records[i]);
 }
 
 /// A box of `side` Areas from its west and south-going distances to the grid's origin.
@@ -99,12 +106,9 @@ GeoBox MeshBox(const MeshRec& mesh) {
 }
 
 void ComputeGridBoxes(ProjectState& project) {
-  for (FillRec& fill : project.Fills)
-    fill.Box = FillBox(fill);
-  for (PhotoRec& photo : project.Photos)
-    photo.Box = PhotoBox(photo);
-  for (MeshRec& mesh : project.Meshes)
-    mesh.Box = MeshBox(mesh);
+  ComputeBoxes(project.Fills, FillBox);
+  ComputeBoxes(project.Photos, PhotoBox);
+  ComputeBoxes(project.Meshes, MeshBox);
 }
 
 void ResolveProjectFolders(ProjectState& project, const AppSettings& settings) {

@@ -3,11 +3,12 @@
 #pragma once
 
 #include "core/ClassGrid.h"
+#include "core/RecordList.h"
 #include "core/Records.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
-#include <vector>
 
 namespace landsmith {
 
@@ -25,15 +26,15 @@ struct ProjectState {
   double Zoom = 1;
   std::int32_t PhotoSeasons = 0;  ///< bits: seasons, layer * 256, mesh levels, resolution
 
-  std::vector<MapRec> Maps;
-  std::vector<LineRec> Lines;
-  std::vector<PolyRec> Polys;
-  std::vector<FillRec> Fills;
-  std::vector<ExcludeRec> Excludes;
-  std::vector<PhotoRec> Photos;
-  std::vector<ClassItemRec> LCI;
-  std::vector<MeshRec> Meshes;
-  std::vector<ObjectRec> Objects;
+  RecordList<MapRec> Maps;
+  RecordList<LineRec> Lines;
+  RecordList<PolyRec> Polys;
+  RecordList<FillRec> Fills;
+  RecordList<ExcludeRec> Excludes;
+  RecordList<PhotoRec> Photos;
+  RecordList<ClassItemRec> LCI;
+  RecordList<MeshRec> Meshes;
+  RecordList<ObjectRec> Objects;
   ClassGrid Lands, Waters;
   std::int32_t NoOfLands = 0, NoOfWaters = 0;  ///< counters of their own: an import keeps them
 
@@ -54,6 +55,13 @@ void ComputeGridBoxes(ProjectState& project);
 GeoBox FillBox(const FillRec& fill);
 GeoBox PhotoBox(const PhotoRec& photo);
 GeoBox MeshBox(const MeshRec& mesh);
+
+/// Whether one of a line's or polygon's vertices is selected by itself.
+template <class Path>
+bool HasSelectedPoint(const Path& path) {
+  return std::any_of(path.Points.begin(), path.Points.end(),
+                     [](const auto& point) { return point.Selected; });
+}
 
 /// Box of all vertices.
 template <class Path>

@@ -40,7 +40,7 @@ public:
   void Points(std::vector<Point>& points);
   void Samples(ClassGrid& grid) {
     const std::string_view samples = m_in.Bytes(ClassGrid::SampleCount);
-    std::memcpy(grid.Samples().data(), samples.data(), samples.size());
+    grid.Assign({reinterpret_cast<const std::uint8_t*>(samples.data()), samples.size()});
   }
 
 private:
@@ -76,10 +76,9 @@ public:
     m_used = 0;
   }
   void Samples(const ClassGrid& grid) {
-    const std::vector<std::uint8_t>& samples = grid.StoredSamples();
+    const std::vector<std::uint8_t> samples = grid.Samples();
     Flush();
     m_out.Bytes({reinterpret_cast<const char*>(samples.data()), samples.size()});
-    if (samples.empty()) m_out.Bytes(std::string(ClassGrid::SampleCount, '\0'));
   }
 
 private:
@@ -240,11 +239,10 @@ void Header(Stream& file, typename Stream::template Of<Counters>& count,
 }
 
 template <class Record>
-void ReadAll(ByteReader& in, std::vector<Record>& records, std::int32_t announced, std::size_t leastSize,
+void ReadAll(ByteReader& in, RecordList<Record>& records, std::int32_t announced, std::size_t leastSize,
              std::string_view what) {
   FieldReader file(in);
   const std::size_t count = in.CheckedCount(announced, leastSize, what);
-  records.reserve(count);
   for (std::size_t i = 0; i < count; ++i)
     Fields(file, records.emplace_back());
 }
@@ -257,7 +255,7 @@ void ReadSamples(ByteReader& in, ClassGrid& grid, std::int32_t count, std::strin
 }
 
 template <class Record>
-void WriteAll(FieldWriter& file, const std::vector<Record>& records) {
+void WriteAll(FieldWriter& file, const RecordList<Record>& records) {
   for (const Record& record : records)
     Fields(file, record);
 }
@@ -276,7 +274,7 @@ Counters CountersOf(const ProjectState& project) {
 
 /// What the lines or polygons take, so that the text need not grow while it is written.
 template <class Point>
-std::size_t SizeOf(const std::vector<PathRec<Point>>& paths) {
+std::size_t SizeOf(const RecordList<PathRec<Point>>& paths) {
   std::size_t size = 0;
   for (const PathRec<Point>& path : paths)
     size += LeastPath + 8 + path.Name.size() + path.Type.size() + path.Points.size() * PointSize;

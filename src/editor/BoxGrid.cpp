@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numeric>
+#include <utility>
 
 namespace landsmith {
 
@@ -52,7 +53,8 @@ BoxGrid::BoxGrid(std::vector<GeoBox> boxes) : m_boxes(std::move(boxes)), m_side(
     m_bounds.Add(box.NLat, box.WLon);
     m_bounds.Add(box.SLat, box.ELon);
   }
-  const double width = m_bounds.ELon - m_bounds.WLon, height = m_bounds.NLat - m_bounds.SLat;
+  m_frame = m_bounds;
+  const double width = m_frame.ELon - m_frame.WLon, height = m_frame.NLat - m_frame.SLat;
   m_columnsPerDeg = width > 0 ? m_side / width : 0;
   m_rowsPerDeg = height > 0 ? m_side / height : 0;
 
@@ -64,16 +66,34 @@ BoxGrid::BoxGrid(std::vector<GeoBox> boxes) : m_boxes(std::move(boxes)), m_side(
   m_entries.resize(m_cellStart.back());
   std::vector<std::uint32_t> next(m_cellStart.begin(), m_cellStart.end() - 1);
   for (std::uint32_t number = 0; number < m_boxes.size(); ++number) {
-    if (IsLarge(m_boxes[number])) m_large.push_back(number);
+    if (IsLarge(m_boxes[number])) m_loose.push_back(number);
     ForEachCell(m_boxes[number], [&](std::size_t cell) { m_entries[next[cell]++] = number; });
   }
 }
 
+void BoxGrid::Put(std::uint32_t number, const GeoBox& box) {
+  if (number == m_boxes.size()) m_boxes.emplace_back();
+  m_boxes[number] = box;
+  m_isLoose.resize(m_boxes.size());
+  if (std::exchange(m_isLoose[number], std::uint8_t{1}) == 0) {
+    m_loose.push_back(number);
+    ++m_put;
+  }
+  if (box.NLat < box.SLat) return;
+  m_bounds.Add(box.NLat, box.WLon);
+  m_bounds.Add(box.SLat, box.ELon);
+}
+
+bool BoxGrid::IsWorn() const {
+  constexpr std::size_t leastPut = 256, manyDivisor = 8;
+  return m_put > std::max(leastPut, m_boxes.size() / manyDivisor);
+}
+
 BoxGrid::CellRange BoxGrid::CellsOf(const GeoBox& box) const {
-  return {CellAt(box.WLon - m_bounds.WLon, m_columnsPerDeg, m_side),
-          CellAt(box.ELon - m_bounds.WLon, m_columnsPerDeg, m_side),
-          CellAt(m_bounds.NLat - box.NLat, m_rowsPerDeg, m_side),
-          CellAt(m_bounds.NLat - box.SLat, m_rowsPerDeg, m_side)};
+  return {CellAt(box.WLon - m_frame.WLon, m_columnsPerDeg, m_side),
+          CellAt(box.ELon - m_frame.WLon, m_columnsPerDeg, m_side),
+          CellAt(m_frame.NLat - box.NLat, m_rowsPerDeg, m_side),
+          CellAt(m_frame.NLat - box.SLat, m_rowsPerDeg, m_side)};
 }
 
 bool BoxGrid::IsLarge(const GeoBox& box) const {
@@ -92,7 +112,8 @@ void BoxGrid::ForEachCell(const GeoBox& box, Visit visit) const {
 }
 
 std::vector<std::uint32_t> BoxGrid::Candidates(const GeoBox& area) const {
-  std::vector<std::uint32_t> numbers = m_large;
+  std::vector<std::uint32_t> numbers = m_loose;
+  if (m_entries.empty()) return numbers;
   const CellRange cells = CellsOf(area);
   for (std::uint32_t row = cells.top; row <= cells.bottom; ++row) {
     const auto* starts = &m_cellStart[std::size_t{row} * m_side];

@@ -1,6 +1,7 @@
 #include "editor/Display.h"
 
 #include <array>
+#include <utility>
 
 namespace landsmith {
 
@@ -32,6 +33,11 @@ int EffectiveMask(int mask, ModeId mode) {
   return mask;
 }
 
+bool IsMovable(LayerKind kind) {
+  return kind == LayerKind::Lines || kind == LayerKind::Polys || kind == LayerKind::Objects ||
+         kind == LayerKind::Excludes || kind == LayerKind::Maps;
+}
+
 /// Marks the canvas as being painted for as long as it lives; mouse events and repaints wait meanwhile.
 class PaintGuard {
 public:
@@ -46,14 +52,25 @@ private:
 
 }  // namespace
 
-PaintInput Display::Input() {
-  if (m_indexRevision != m_session.Revision) {
-    m_index = GeometryIndex(m_session.project);
-    m_indexRevision = m_session.Revision;
-  }
+const GeometryIndex& Display::Index() {
+  m_index.Follow(m_session.project);
+  return m_index;
+}
+
+PaintInput Display::Input(PaintPart partWhileMoving) {
+  // While something moves the index is not asked for it, and what stays is as it was.
+  if (!m_moving) m_index.Follow(m_session.project);
   m_bitmaps = m_session.folders.Bitmaps();
-  return {m_session.project, m_session.settings, m_session.view, m_session.tool,
-          m_session.lands,   m_session.waters,   m_bitmaps,      &m_index};
+  return {m_session.project,
+          m_session.settings,
+          m_session.view,
+          m_session.tool,
+          m_session.lands,
+          m_session.waters,
+          m_bitmaps,
+          &m_index,
+          m_moving ? partWhileMoving : PaintPart::All,
+          m_moving ? &*m_moving : nullptr};
 }
 
 bool Display::ShowsAny(LayerKind kind) const {
@@ -112,7 +129,8 @@ void Display::PaintLayer(LayerKind kind, Surface& surface, const PaintInput& in)
   }
 }
 
-void Display::PaintBase(int mask, const PaintInput& in) {
+void Display::PaintBase(int mask) {
+  const PaintInput in = Input(PaintPart::Still);
   m_surfaces.ClearBase(m_session.project.ProjectOpen ? Colors.Window : Colors.Workspace);
   m_surfaces.ClearOverlay();
   m_session.view.OverlayPending.fill(true);
@@ -120,8 +138,14 @@ void Display::PaintBase(int mask, const PaintInput& in) {
     if ((mask & layer.Bit) == 0) continue;
     if (ShowsAny(layer.Kind) && m_session.view.Shows(layer.Kind))
       PaintLayer(layer.Kind, m_surfaces.Base(), in);
-    m_session.view.Pending(layer.Kind) = false;
+    m_session.view.Pending(layer.Kind) = m_moving && IsMovable(layer.Kind);
   }
+}
+
+/// The kind that the mode edits, whatever is shown.
+void Display::PaintEdited(const PaintInput& in) {
+  if (m_session.tool.Mode == ModeId::Line) PaintLayer(LayerKind::Lines, m_surfaces.Overlay(), in);
+  if (m_session.tool.Mode == ModeId::Poly) PaintLayer(LayerKind::Polys, m_surfaces.Overlay(), in);
 }
 
 void Display::PaintOnTop(const PaintInput& in) {
@@ -134,12 +158,12 @@ void Display::RebuildDisplay(int mask) {
   if (view.BusyPainting) return;
   {
     const PaintGuard guard(view.BusyPainting);
-    const PaintInput in = Input();
-    PaintBase(EffectiveMask(mask, m_session.tool.Mode), in);
-    if (mask > 0 && m_session.tool.Mode == ModeId::Line)
-      PaintLayer(LayerKind::Lines, m_surfaces.Overlay(), in);
-    if (mask > 0 && m_session.tool.Mode == ModeId::Poly)
-      PaintLayer(LayerKind::Polys, m_surfaces.Overlay(), in);
+    PaintBase(m_moving ? LayerMask::All : EffectiveMask(mask, m_session.tool.Mode));
+    const PaintInput in = Input(PaintPart::Moving);
+    if (m_moving)
+      PaintPending(in);
+    else if (mask > 0)
+      PaintEdited(in);
     PaintOnTop(in);
   }
   m_surfaces.Present();
@@ -150,6 +174,17 @@ void Display::PaintPending(const PaintInput& in) {
     if (m_session.view.Pending(layer.Kind) && m_session.view.Shows(layer.Kind) && ShowsAny(layer.Kind))
       PaintLayer(layer.Kind, m_surfaces.Overlay(), in);
   }
+}
+
+void Display::BeginMoving(MovingItems moving) {
+  Index();
+  m_moving = std::move(moving);
+  RebuildDisplay(LayerMask::All);
+}
+
+void Display::EndMoving() {
+  if (!std::exchange(m_moving, std::nullopt)) return;
+  RebuildDisplay(LayerMask::All);
 }
 
 void Display::RedrawOverlay() {
@@ -163,7 +198,7 @@ void Display::PaintOverlay() {
   if (view.BusyPainting) return;
   {
     const PaintGuard guard(view.BusyPainting);
-    const PaintInput in = Input();
+    const PaintInput in = Input(PaintPart::Moving);
     PaintPending(in);
     PaintOnTop(in);
   }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "editor/GeometryIndex.h"
+#include "editor/MovingItems.h"
 #include "editor/Painters.h"
 #include "editor/Session.h"
 #include "platform/Surface.h"
@@ -10,6 +11,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <utility>
 
 namespace landsmith {
@@ -45,6 +47,15 @@ public:
   /// Paints all pending layers without clearing.
   void PaintOverlay();
 
+  /// From here on the base image holds what stays and the overlay what moves, so that a step of a drag paints
+  /// only the latter with RedrawOverlay; what moves lies on top meanwhile.
+  void BeginMoving(MovingItems moving);
+  /// Everything in its place again.
+  void EndMoving();
+
+  /// Where lines and polygons lie at this moment.
+  const GeometryIndex& Index();
+
   /// What the tool at hand paints on top of the overlay: rubber lines and boxes.
   void SetExtra(std::function<void(Surface&)> paint) { m_extra = std::move(paint); }
 
@@ -52,11 +63,12 @@ public:
   CanvasColors Colors;
 
 private:
-  PaintInput Input();
+  PaintInput Input(PaintPart partWhileMoving);
   bool ShowsAny(LayerKind kind) const;
   void PaintLayer(LayerKind kind, Surface& surface, const PaintInput& in);
-  void PaintBase(int mask, const PaintInput& in);
+  void PaintBase(int mask);
   void PaintPending(const PaintInput& in);
+  void PaintEdited(const PaintInput& in);
   void PaintOnTop(const PaintInput& in);
 
   Session& m_session;
@@ -64,7 +76,7 @@ private:
   std::function<void(Surface&)> m_extra;
   std::filesystem::path m_bitmaps;
   GeometryIndex m_index;
-  std::uint64_t m_indexRevision = 0;  ///< of the project that m_index describes; 0: none yet
+  std::optional<MovingItems> m_moving;
 };
 
 }  // namespace landsmith

@@ -67,6 +67,22 @@ public:
   /// mnuSLines ...: marks or clears all items of one shown kind.
   void SelectKind(LayerKind kind, bool state);
   void SnapToLod21();
+  void Undo();  ///< mnuEUndo; refused while something is being dragged
+  void Redo();  ///< mnuERedo
+  void Cut();
+  void Copy();
+  void Paste();  ///< arms the canvas: each left press then pastes, a right one disarms
+  /// mnuEDelete: the first selected item of the mode's kind in Line, Poly and Object mode, with its question;
+  /// elsewhere everything selected, as the Delete key.
+  void DeleteOne();
+  void ToggleMeasure();  ///< mnuEMeasure and M
+  /// mnuVSummer ...: an exact view name.
+  void SetMapView(std::string_view view);
+  /// The next press on the canvas goes to `pick` and nowhere else; a form that waits for a place on the map
+  /// asks for it. An empty function takes the request back.
+  void PickPoint(std::function<void(const PointerInput&)> pick);
+  /// The walk along vertices by the arrow keys begins at this vertex, "PtInLine" or "PtInPoly".
+  void StartWalk(const PopupTarget& point);
   /// The commands of a context menu; `target` as ShowContextMenu gave it. Both ignore a target that is gone.
   void DeleteTarget(const PopupTarget& target);
   void ShowTargetProperties(const PopupTarget& target);
@@ -79,10 +95,13 @@ public:
   std::string Caption() const;
   bool MaySave() const;  ///< after a load or a Save As
   bool GestureAlive() const { return m_gesture != nullptr; }
+  bool CanUndo() const { return HasProject() && m_session.undo.CanUndo() && !GestureAlive(); }
+  bool CanRedo() const { return HasProject() && m_session.undo.CanRedo() && !GestureAlive(); }
 
 private:
   void EndGesture();
   void ReleaseGesture(const PointerInput& in);
+  void ShowRestored();
   void TakeMode(ModeId mode);
   std::unique_ptr<Gesture> GestureOfPress(const PointerInput& in);
   void OpenPendingMenu();

@@ -73,9 +73,9 @@ void Editor::DeleteTarget(const PopupTarget& target) {
   Guard([&] {
     Edit edit(m_session, m_display);
     if (target.Kind == "PtInLine")
-      DeleteLinePoint(edit.Project(), target.Item, target.Point);
+      DeletePathPoint(edit.Project().Lines, target.Item, target.Point);
     else
-      DeleteLine(edit.Project(), target.Item);
+      edit.Project().Lines.Erase(target.Item);
     RecountSelection(m_session.project, m_session.tool.Selected);
   });
   m_host.RefreshUi();

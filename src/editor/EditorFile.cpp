@@ -62,7 +62,7 @@ void Editor::LeaveProject() {
 
 /// The view, the mode and the selection after `m_session.project` has become another one.
 void Editor::ProjectReplaced() {
-  ++m_session.Revision;
+  m_session.undo.Reset();
   m_session.tool = ToolState{};
   TakeMode(ModeId::Pointer);
   RecountSelection(m_session.project, m_session.tool.Selected);

@@ -30,6 +30,16 @@ public:
   virtual void ShowContextMenu(const PopupTarget& target) = 0;
   /// Opens `frmLinesP` for one line (0-based), or for all selected ones when empty.
   virtual void ShowLineProperties(std::optional<std::size_t> line) = 0;
+  /// Opens `frmPolysP` for one polygon (0-based), or for all selected ones when empty.
+  virtual void ShowPolyProperties(std::optional<std::size_t> /*poly*/) {}
+  /// Opens `frmMapsP` for a map (0-based) and returns when it is closed.
+  virtual void ShowMapProperties(std::size_t /*map*/) {}
+  /// Opens `frmPoints0P` for a vertex, "PtInLine" or "PtInPoly"; the canvas stays alive beside it.
+  virtual void ShowPointForm(const PopupTarget& /*point*/) {}
+  /// The walk along vertices has come to this one: a point form that is open shows it.
+  virtual void FollowPoint(const PopupTarget& /*point*/) {}
+  /// The mode's form (`frmLandsP`, ...) beside the canvas, where the mode has one, or none any more.
+  virtual void ShowModeForm(std::optional<ModeId> /*mode*/) {}
   /// `frmProjectP` on its first tab; true after OK.
   virtual bool ShowProjectProperties() = 0;
   virtual int ToolbarHeight() const = 0;

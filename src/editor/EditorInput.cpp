@@ -56,7 +56,8 @@ void Editor::OpenPendingMenu() {
     m_host.ShowLineProperties(std::nullopt);
     return;
   }
-  m_host.ShowContextMenu(PopupTargetAt(m_session.project, m_session.view, m_session.tool.Mode, *at));
+  m_host.ShowContextMenu(
+      PopupTargetAt(m_session.project, m_session.view, m_session.tool.Mode, *at, m_display.Index()));
 }
 
 void Editor::Move(const PointerInput& in) {

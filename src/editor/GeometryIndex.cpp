@@ -6,51 +6,109 @@ namespace landsmith {
 
 namespace {
 
-constexpr std::size_t SegmentsPerRun = 64;
+constexpr std::uint32_t SegmentsPerPiece = 64;
+/// When more than this part of all records are others, a new index is cheaper than mending the old one.
+constexpr std::size_t ManyDivisor = 8;
 
-GeoBox RunBox(const LineRec& line, std::size_t first, std::size_t last) {
-  GeoBox box;
-  for (std::size_t point = first; point <= last; ++point)
-    box.Add(line.Points[point].Lat, line.Points[point].Lon);
-  return box;
-}
-
-BoxGrid BoxesOfPolys(const std::vector<PolyRec>& polys) {
-  std::vector<GeoBox> boxes;
-  boxes.reserve(polys.size());
-  for (const PolyRec& poly : polys)
-    boxes.push_back(poly.Box);
-  return BoxGrid(std::move(boxes));
+/// The vertex behind the last segment; in a ring it stands for the first one again.
+template <class Path>
+std::uint32_t EndOf(const Path& path) {
+  const auto count = static_cast<std::uint32_t>(path.Points.size());
+  return PathTraits<Path>::IsRing || count == 0 ? count : count - 1;
 }
 
 template <class Path>
-std::vector<std::uint8_t> SelectionFlags(const std::vector<Path>& paths) {
-  std::vector<std::uint8_t> flags;
-  flags.reserve(paths.size());
-  for (const Path& path : paths)
-    flags.push_back(HasSelectedPoint(path) ? 1 : 0);
-  return flags;
+GeoBox PieceBox(const Path& path, std::uint32_t first, std::uint32_t last) {
+  GeoBox box;
+  for (std::uint32_t k = first; k <= last; ++k) {
+    const auto& point = path.Points[k % path.Points.size()];
+    box.Add(point.Lat, point.Lon);
+  }
+  return box;
+}
+
+template <class Path>
+std::vector<GeoBox> PieceBoxes(const Path& path) {
+  std::vector<GeoBox> boxes;
+  const std::uint32_t end = EndOf(path);
+  for (std::uint32_t first = 0; first < end; first += SegmentsPerPiece)
+    boxes.push_back(PieceBox(path, first, std::min(first + SegmentsPerPiece, end)));
+  return boxes;
 }
 
 }  // namespace
 
-GeometryIndex::GeometryIndex(const ProjectState& project)
-    : m_polyBoxes(BoxesOfPolys(project.Polys)),
-      m_lineHadSelection(SelectionFlags(project.Lines)),
-      m_polyHadSelection(SelectionFlags(project.Polys)) {
+/// What is kept of one path beside its box.
+template <class Path>
+void PathIndex<Path>::Describe(std::uint32_t item) {
+  const Path& path = m_paths[item];
+  m_marked[item] = path.Selected || HasSelectedPoint(path) ? 1 : 0;
+  if (EndOf(path) > SegmentsPerPiece)
+    m_longBoxes[item] = PieceBoxes(path);
+  else
+    m_longBoxes.erase(item);
+}
+
+template <class Path>
+void PathIndex<Path>::Rebuild() {
+  m_longBoxes.clear();
+  m_marked.assign(m_paths.size(), 0);
   std::vector<GeoBox> boxes;
-  for (std::size_t number = 0; number < project.Lines.size(); ++number) {
-    const LineRec& line = project.Lines[number];
-    const std::size_t points = line.Points.size();
-    for (std::size_t first = 0; first + 1 < points || (first == 0 && points == 1); first += SegmentsPerRun) {
-      const std::size_t last = std::min(first + SegmentsPerRun, points - 1);
-      m_runs.push_back({static_cast<std::uint32_t>(number), static_cast<std::uint32_t>(first),
-                        static_cast<std::uint32_t>(last)});
-      const bool whole = first == 0 && last + 1 == points;
-      boxes.push_back(whole ? line.Box : RunBox(line, first, last));
+  boxes.reserve(m_paths.size());
+  for (const Path& path : m_paths) {
+    boxes.push_back(path.Box);
+    Describe(static_cast<std::uint32_t>(boxes.size() - 1));
+  }
+  m_boxes = BoxGrid(std::move(boxes));
+}
+
+/// False when the boxes have moved about so much that the grid is better made anew.
+template <class Path>
+bool PathIndex<Path>::Update(const std::vector<std::uint32_t>& items) {
+  m_marked.resize(m_paths.size());
+  for (const std::uint32_t item : items) {
+    Describe(item);
+    m_boxes.Put(item, m_paths[item].Box);
+  }
+  return !m_boxes.IsWorn();
+}
+
+template <class Path>
+bool PathIndex<Path>::Follow(const RecordList<Path>& paths) {
+  std::vector<std::uint32_t> others;
+  ForEachDifference(m_paths, paths, [&](std::size_t i) { others.push_back(static_cast<std::uint32_t>(i)); });
+  const std::size_t before = m_paths.size();
+  if (others.empty() && paths.size() == before) return false;
+  for (std::size_t i = before; i < paths.size(); ++i)
+    others.push_back(static_cast<std::uint32_t>(i));
+  m_paths = paths;
+  const bool many = others.size() > paths.size() / ManyDivisor;
+  if (paths.size() < before || many || !Update(others)) Rebuild();
+  return true;
+}
+
+template <class Path>
+std::vector<PathPiece> PathIndex<Path>::PiecesMeeting(const GeoBox& area) const {
+  std::vector<PathPiece> pieces;
+  for (const std::uint32_t item : m_boxes.Meeting(area)) {
+    const Path& path = m_paths[item];
+    if (path.Points.empty()) continue;
+    const std::uint32_t end = EndOf(path);
+    const auto boxes = m_longBoxes.find(item);
+    if (boxes == m_longBoxes.end()) {
+      pieces.push_back({item, 0, end});
+      continue;
+    }
+    for (std::uint32_t number = 0; number < boxes->second.size(); ++number) {
+      const std::uint32_t first = number * SegmentsPerPiece;
+      if (boxes->second[number].Meets(area))
+        pieces.push_back({item, first, std::min(first + SegmentsPerPiece, end)});
     }
   }
-  m_runBoxes = BoxGrid(std::move(boxes));
+  return pieces;
 }
+
+template class PathIndex<LineRec>;
+template class PathIndex<PolyRec>;
 
 }  // namespace landsmith

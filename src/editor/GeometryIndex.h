@@ -1,50 +1,58 @@
-// Where the lines and polygons of a project lie: what a painter asks so that a repaint costs what is in view,
-// not what the project holds.
+// Where the lines and polygons of a project lie: what painting and picking ask, so that they cost what is in
+// view or under the mouse, not what the project holds.
+//
+// An index keeps a copy of the list that it describes. Copies share what has not changed, so following a
+// project takes a glance at each 256 records and work only for those that are others than before.
 #pragma once
 
 #include "core/Project.h"
 #include "editor/BoxGrid.h"
+#include "vector/PathSelection.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <unordered_map>
 #include <vector>
 
 namespace landsmith {
 
-/// A piece of a line: its vertices `first` to `last`, both included. Neighbours share a vertex; a line of one
-/// point is one run.
-struct LinePiece {
-  std::uint32_t line = 0;
-  std::uint32_t first = 0, last = 0;
-};
-
 template <class Path>
-bool HasSelectedPoint(const Path& path) {
-  return std::any_of(path.Points.begin(), path.Points.end(),
-                     [](const auto& point) { return point.Selected; });
-}
-
-/// A snapshot of one state of the project; it holds no references into it.
-class GeometryIndex {
+class PathIndex {
 public:
-  GeometryIndex() = default;
-  explicit GeometryIndex(const ProjectState& project);
+  /// Describes `paths` from now on. True when anything differed from what was described before.
+  bool Follow(const RecordList<Path>& paths);
 
-  /// In drawing order, each line's runs one after the other.
-  const std::vector<LinePiece>& LineRuns() const { return m_runs; }
-  const BoxGrid& LineRunBoxes() const { return m_runBoxes; }
-  const BoxGrid& PolyBoxes() const { return m_polyBoxes; }
-  /// Whether the line or polygon had a selected vertex when the index was made. Selecting makes no new index,
-  /// so this is a hint for how to look, not an answer.
-  bool LineHadSelection(std::size_t line) const { return m_lineHadSelection[line] != 0; }
-  bool PolyHadSelection(std::size_t poly) const { return m_polyHadSelection[poly] != 0; }
+  /// Numbers of the paths whose box meets `area`, ascending; touching counts.
+  std::vector<std::uint32_t> Meeting(const GeoBox& area) const { return m_boxes.Meeting(area); }
+  /// The pieces of those paths that meet `area`, in drawing order and along each path. Short paths come
+  /// whole.
+  std::vector<PathPiece> PiecesMeeting(const GeoBox& area) const;
+  /// Whether the path, or one of its vertices, is selected.
+  bool IsMarked(std::size_t item) const { return m_marked[item] != 0; }
+  /// One byte a path, as IsMarked tells.
+  const std::vector<std::uint8_t>& Marked() const { return m_marked; }
 
 private:
-  std::vector<LinePiece> m_runs;
-  BoxGrid m_runBoxes;
-  BoxGrid m_polyBoxes;
-  std::vector<std::uint8_t> m_lineHadSelection, m_polyHadSelection;
+  void Rebuild();
+  void Describe(std::uint32_t item);
+  bool Update(const std::vector<std::uint32_t>& items);
+
+  RecordList<Path> m_paths;
+  BoxGrid m_boxes;
+  std::unordered_map<std::uint32_t, std::vector<GeoBox>> m_longBoxes;  ///< of the pieces of long paths
+  std::vector<std::uint8_t> m_marked;
+};
+
+struct GeometryIndex {
+  GeometryIndex() = default;
+  explicit GeometryIndex(const ProjectState& project) { Follow(project); }
+  bool Follow(const ProjectState& project) {
+    const bool lines = Lines.Follow(project.Lines);
+    return Polys.Follow(project.Polys) || lines;
+  }
+
+  PathIndex<LineRec> Lines;
+  PathIndex<PolyRec> Polys;
 };
 
 }  // namespace landsmith

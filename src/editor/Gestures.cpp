@@ -82,7 +82,7 @@ void RubberBox::End(const PointerInput& in) {
   GeoBox box;
   box.Add(a.lat, a.lon);
   box.Add(b.lat, b.lon);
-  SelectInBox(session.project, session.view, box, session.tool);
+  SelectInBox(session.project, m_context.display.Index(), session.view, box, session.tool);
   Repaint();
   m_context.host.RefreshUi();
 }
@@ -103,7 +103,6 @@ void RubberBox::Repaint() {
 
 MoveDrag::MoveDrag(ModeContext& context, const PointerInput& in)
     : m_context(context), m_edit(context.session, context.display, -1), m_last(in.at) {
-  context.session.tool.Dragging = true;
   m_settling = context.host.StartTimer(TimerId::DragSettle, SettleMilliseconds);
 }
 
@@ -113,7 +112,11 @@ void MoveDrag::Update(const PointerInput& in) {
   const double dx = in.at.x - m_last.x, dy = in.at.y - m_last.y;
   if (dx == 0 && dy == 0) return;
   m_last = in.at;
-  MoveSelection(m_edit.Project(), session.view, session.tool.Mode, dx, dy);
+  if (!m_moving) {
+    m_moving = CollectMoving(session.project, m_context.display.Index(), session.view, session.tool.Mode);
+    m_context.display.BeginMoving(*m_moving);
+  }
+  MoveSelection(m_edit.Project(), *m_moving, session.view, dx, dy);
   if (std::exchange(m_repaintPending, true)) return;
   if (!m_context.host.StartTimer(TimerId::DragRedraw, RepaintMilliseconds)) Repaint();
 }
@@ -129,22 +132,17 @@ void MoveDrag::Tick(TimerId timer) {
 
 void MoveDrag::JoinMovedLine() {
   Session& session = m_context.session;
-  if (session.tool.Mode != ModeId::Line || session.settings.AutoLineJoin != 1 || !m_edit.Begun()) return;
+  if (session.tool.Mode != ModeId::Line || session.settings.AutoLineJoin != 1 || !m_moving) return;
+  if (m_moving->Lines.empty()) return;
   ProjectState& project = m_edit.Project();
-  const auto moved = std::find_if(project.Lines.begin(), project.Lines.end(), [](const LineRec& line) {
-    return line.Selected || HasSelectedPoint(line);
-  });
-  if (moved == project.Lines.end()) return;
-  const auto number = static_cast<std::size_t>(moved - project.Lines.begin());
-  if (!TryAutoJoin(project, number, session.settings, session.view.Scale)) return;
+  if (!TryAutoJoin(project, m_moving->Lines.front(), session.settings, session.view.Scale)) return;
   RecountSelection(project, session.tool.Selected);
-  m_repaintPending = true;
   session.dialogs.Beep();
 }
 
 void MoveDrag::Finish() {
-  m_context.session.tool.Dragging = false;
-  Repaint();
+  m_repaintPending = false;
+  m_context.display.EndMoving();
 }
 
 void MoveDrag::End(const PointerInput&) {

@@ -77,6 +77,7 @@ private:
   ModeContext& m_context;
   Edit m_edit;
   PixelOffset m_last;
+  std::optional<MovingItems> m_moving;  ///< from the first step on
   bool m_settling = false;
   bool m_repaintPending = false;
 };

@@ -26,7 +26,7 @@ bool EditSelectedPoint(ModeContext& context) {
   ProjectState& project = edit.Project();
   Selection& selection = session.tool.Selected;
   if (tool.DeletePoints)
-    DeleteSelectedPoints(project, selection);
+    DeleteSelectedPathPoints(project.Lines, selection);
   else if (tool.BreakLine && SplitLine(project, selection))
     session.dialogs.Beep();
   else if (tool.WidthDown)
@@ -88,19 +88,24 @@ std::unique_ptr<Gesture> LineMode::PressLeft(const PointerInput& in) {
     const WorldPixel at = ToWorldPixel(session.view, click.at);
     Selection& selection = session.tool.Selected;
     if (session.view.Shows(LayerKind::Lines)) {
-      if (HitLinePoint(session.project, at, session.view.Scale, selection)) return PressOnPoint(in);
+      const auto pieces = PiecesAt(at);
+      if (HitPoint(session.project.Lines, pieces, at, session.view.Scale, selection)) return PressOnPoint(in);
       if (session.tool.InsertPoints) return InsertPoint(in, at);
-      if (HitLine(session.project, at, session.view.Scale, selection)) return StartDrag(in);
+      if (HitPath(session.project.Lines, pieces, at, session.view.Scale, selection)) return StartDrag(in);
     }
   }
   AddPoint(ToLatLon(session.view, click.at));
   return nullptr;
 }
 
+std::vector<PathPiece> LineMode::PiecesAt(WorldPixel at) {
+  return m_context.display.Index().Lines.PiecesMeeting(CursorBox(at, m_context.session.view.Scale));
+}
+
 std::unique_ptr<Gesture> LineMode::AddToSelection(const PointerInput& in, WorldPixel at) {
   Session& session = m_context.session;
   if (session.view.Shows(LayerKind::Lines))
-    HitLine(session.project, at, session.view.Scale, session.tool.Selected);
+    HitPath(session.project.Lines, PiecesAt(at), at, session.view.Scale, session.tool.Selected);
   return session.tool.Selected.SelectionActive ? StartDrag(in) : nullptr;
 }
 
@@ -112,12 +117,13 @@ std::unique_ptr<Gesture> LineMode::PressOnPoint(const PointerInput& in) {
 
 std::unique_ptr<Gesture> LineMode::InsertPoint(const PointerInput& in, WorldPixel at) {
   Session& session = m_context.session;
-  const auto hit = FindLineAt(session.project, at, session.view.Scale);
+  const auto hit = FindSegmentAt(session.project.Lines, PiecesAt(at), at, session.view.Scale);
   if (!hit) return nullptr;
   const LatLon place{at.Y / session.view.Scale.PixelsPerDegLat, at.X / session.view.Scale.PixelsPerDegLon};
   {
     Edit edit(session, m_context.display, -1);
-    if (!InsertLinePoint(edit.Project(), place, hit->item, hit->point, session.tool.Selected)) return nullptr;
+    if (!InsertPathPoint(edit.Project().Lines, place, hit->item, hit->point, session.tool.Selected))
+      return nullptr;
   }
   return StartDrag(in);
 }
@@ -138,14 +144,14 @@ void LineMode::AddPoint(LatLon at) {
     return;
   }
   {
-    Edit edit(session, m_context.display, -1);
+    Edit edit(session, m_context.display, -1, m_first ? UndoPoint::Take : UndoPoint::Share);
     auto& lines = edit.Project().Lines;
     if (m_first) {
       lines.push_back(NewLine(*m_first, at, session.settings.DefPWidth, session.settings.LnColorUns));
       m_line = lines.size() - 1;
       m_first.reset();
     } else {
-      AppendLinePoint(lines[*m_line], at, session.settings.DefPWidth);
+      AppendPoint(lines.Edit(*m_line), at, session.settings.DefPWidth);
     }
   }
   m_context.display.RedrawOverlay();
@@ -188,6 +194,11 @@ bool LineMode::Key(const KeyInput& in) {
 
 void LineMode::Leave() {
   EndLine();
+}
+
+void LineMode::Abandon() {
+  m_first.reset();
+  m_line.reset();
 }
 
 void LineMode::Paint(Surface& surface) const {

@@ -20,6 +20,7 @@ public:
   bool Key(const KeyInput& in) override;
   void Tick(TimerId timer) override;
   void Leave() override;
+  void Abandon() override;
   CursorShape Cursor() const override { return CursorShape::Line; }
   void Paint(Surface& surface) const override;
 
@@ -34,6 +35,7 @@ private:
   void EndLine();
   bool IsDrawing() const;
   LatLon LastPoint() const;
+  std::vector<PathPiece> PiecesAt(WorldPixel at);
 
   ModeContext& m_context;
   std::optional<LatLon> m_first;      ///< the pending first vertex; the record comes with the second

@@ -32,7 +32,10 @@ void RedrawSoon(ModeContext& context, TimerId timer) {
 void ShowLabelUnderMouse(ModeContext& context) {
   const ViewState& view = context.session.view;
   if (context.session.settings.ShowLabels == 0 || !view.Shows(LayerKind::Lines)) return;
-  const auto hit = FindLineAt(context.session.project, ToWorldPixel(view, view.Mouse), view.Scale);
+  const WorldPixel place = ToWorldPixel(view, view.Mouse);
+  const auto& lines = context.session.project.Lines;
+  const auto pieces = context.display.Index().Lines.PiecesMeeting(CursorBox(place, view.Scale));
+  const auto hit = FindSegmentAt(lines, pieces, place, view.Scale);
   const PixelPoint at{static_cast<std::int32_t>(view.Mouse.x) + view.ScaleWidth / 2 + LabelRight,
                       static_cast<std::int32_t>(view.Mouse.y) + view.ScaleHeight / 2 - LabelAbove};
   context.host.ShowHoverLabel(hit ? LineLabel(context.session.project, hit->item) : std::string(), at);

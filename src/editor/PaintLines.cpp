@@ -6,7 +6,6 @@
 
 #include <array>
 #include <cmath>
-#include <optional>
 
 namespace landsmith {
 
@@ -42,11 +41,11 @@ public:
       : m_surface(surface), m_in(in), m_quick(quick) {}
 
   /// `runs`: those of one line that meet the view. True when a segment was drawn.
-  bool Paint(const LineRec& line, std::span<const LinePiece> runs) {
+  bool Paint(const LineRec& line, std::span<const PathPiece> runs) {
     UseColor(line.Selected ? m_in.settings.LnColorSel : line.Color);
     m_joined = m_drawn = m_painted = false;
     std::uint32_t reached = 0;
-    for (const LinePiece& run : runs) {
+    for (const PathPiece& run : runs) {
       if (run.first != reached) m_joined = false;
       PaintRun(line, run);
       reached = run.last;
@@ -62,10 +61,10 @@ public:
     m_spans.clear();
   }
 
-  void PaintMarks(const LineRec& line, std::span<const LinePiece> runs, bool anySelected) {
+  void PaintMarks(const LineRec& line, std::span<const PathPiece> runs, bool anySelected) {
     Flush();
     std::size_t next = 0;
-    for (const LinePiece& run : runs) {
+    for (const PathPiece& run : runs) {
       for (std::size_t i = std::max<std::size_t>(next, run.first); i <= run.last; ++i)
         PaintMark(line, i, anySelected);
       next = run.last + std::size_t{1};
@@ -83,7 +82,7 @@ private:
            SegmentCrossesView(m_in.view, a.Lon, a.Lat, b.Lon, b.Lat);
   }
 
-  void PaintRun(const LineRec& line, const LinePiece& run) {
+  void PaintRun(const LineRec& line, const PathPiece& run) {
     for (std::size_t i = run.first + std::size_t{1}; i <= run.last; ++i) {
       const LinePoint &from = line.Points[i - 1], &to = line.Points[i];
       if (!IsVisible(from, to)) {
@@ -181,32 +180,45 @@ private:
   std::vector<PixelSpan> m_spans;  ///< in m_color, not yet on the surface
 };
 
+/// Of the lines that move, whole ones: the index knows where they lay when the drag began.
+std::vector<PathPiece> PiecesInView(const PaintInput& in) {
+  const RecordList<LineRec>& lines = in.project.Lines;
+  const GeoBox area = in.view.VisibleBox();
+  std::vector<PathPiece> pieces;
+  if (in.part == PaintPart::Moving) {
+    for (const std::uint32_t item : in.moving->Lines) {
+      if (!lines[item].Box.Meets(area)) continue;
+      pieces.push_back({item, 0, static_cast<std::uint32_t>(lines[item].Points.size() - 1)});
+    }
+    return pieces;
+  }
+  pieces = in.index != nullptr ? in.index->Lines.PiecesMeeting(area)
+                               : GeometryIndex(in.project).Lines.PiecesMeeting(area);
+  if (in.part == PaintPart::Still)
+    std::erase_if(pieces, [&](const PathPiece& piece) { return in.moving->LineFlags[piece.item] != 0; });
+  return pieces;
+}
+
 }  // namespace
 
 void DisplayLines(Surface& surface, const PaintInput& in, std::vector<std::uint8_t>& drawn) {
   const auto& lines = in.project.Lines;
-  if (!in.tool.Dragging || drawn.size() != lines.size()) drawn.assign(lines.size(), 0);
-  std::optional<GeometryIndex> own;
-  const GeometryIndex& index = in.index != nullptr ? *in.index : own.emplace(in.project);
-
-  std::vector<LinePiece> runs;
-  for (const std::uint32_t number : index.LineRunBoxes().Meeting(in.view.VisibleBox()))
-    runs.push_back(index.LineRuns()[number]);
-
+  const bool all = in.part == PaintPart::All;
+  if (all) drawn.assign(lines.size(), 0);
+  const std::vector<PathPiece> runs = PiecesInView(in);
   std::size_t segments = 0;
-  for (const LinePiece& run : runs)
+  for (const PathPiece& run : runs)
     segments += run.last - run.first;
   LinePainter painter(surface, in, segments > QuickSegments);
   for (std::size_t first = 0, behind = 0; first < runs.size(); first = behind) {
-    const std::uint32_t number = runs[first].line;
-    while (behind < runs.size() && runs[behind].line == number)
+    const std::uint32_t number = runs[first].item;
+    while (behind < runs.size() && runs[behind].item == number)
       ++behind;
     const LineRec& line = lines[number];
     const auto lineRuns = std::span(runs).subspan(first, behind - first);
-    if (painter.Paint(line, lineRuns) && !in.tool.Dragging) drawn[number] = 1;
+    if (painter.Paint(line, lineRuns) && all) drawn[number] = 1;
 
-    const bool look = in.tool.Selected.SelectionActive || index.LineHadSelection(number);
-    const bool selected = line.Selected || (look && HasSelectedPoint(line));
+    const bool selected = line.Selected || (in.tool.Selected.SelectionActive && HasSelectedPoint(line));
     const bool editing = in.tool.Mode == ModeId::Line && !in.tool.Selected.SelectionActive;
     if (selected || editing) painter.PaintMarks(line, lineRuns, selected);
   }

@@ -63,7 +63,7 @@ void DrawObject(Surface& surface, const PaintInput& in, const ObjectRec& object)
 
 void DisplayObjects(Surface& surface, const PaintInput& in) {
   for (const ObjectRec& object : in.project.Objects) {
-    if (Meets(in.view, object.Box)) DrawObject(surface, in, object);
+    if (in.Takes(object.Selected) && Meets(in.view, object.Box)) DrawObject(surface, in, object);
   }
 }
 

@@ -4,7 +4,6 @@
 #include "editor/RingRaster.h"
 
 #include <array>
-#include <optional>
 
 namespace landsmith {
 
@@ -64,19 +63,32 @@ private:
   std::vector<CanvasPoint> m_canvas;
 };
 
+std::vector<std::uint32_t> PolysInView(const PaintInput& in) {
+  const GeoBox area = in.view.VisibleBox();
+  std::vector<std::uint32_t> items;
+  if (in.part == PaintPart::Moving) {
+    items = in.moving->Polys;
+    std::erase_if(items, [&](std::uint32_t item) { return !in.project.Polys[item].Box.Meets(area); });
+    return items;
+  }
+  items = in.index != nullptr ? in.index->Polys.Meeting(area) : GeometryIndex(in.project).Polys.Meeting(area);
+  if (in.part == PaintPart::Still)
+    std::erase_if(items, [&](std::uint32_t item) { return in.moving->PolyFlags[item] != 0; });
+  return items;
+}
+
 }  // namespace
 
 void DisplayPolys(Surface& surface, const PaintInput& in, std::vector<std::uint8_t>& drawn) {
   const auto& polys = in.project.Polys;
-  if (!in.tool.Dragging || drawn.size() != polys.size()) drawn.assign(polys.size(), 0);
-  std::optional<GeometryIndex> own;
-  const GeometryIndex& index = in.index != nullptr ? *in.index : own.emplace(in.project);
+  const bool all = in.part == PaintPart::All;
+  if (all) drawn.assign(polys.size(), 0);
   PolyPainter painter(surface, in);
-  for (const std::uint32_t number : index.PolyBoxes().Meeting(in.view.VisibleBox())) {
+  for (const std::uint32_t number : PolysInView(in)) {
     const PolyRec& poly = polys[number];
     if (in.settings.HideOtherPolys && poly.Type.starts_with('O')) continue;
-    painter.Paint(poly, in.tool.Selected.SelectionActive || index.PolyHadSelection(number));
-    if (!in.tool.Dragging) drawn[number] = 1;
+    painter.Paint(poly, in.tool.Selected.SelectionActive);
+    if (all) drawn[number] = 1;
   }
 }
 

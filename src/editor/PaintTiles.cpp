@@ -51,7 +51,7 @@ void DisplayMaps(Surface& surface, const PaintInput& in) {
   for (const MapRec& map : in.project.Maps) {
     const MapLevel& shown = map.Level[0];
     const GeoBox area{shown.NLat, shown.SLat, shown.WLon, shown.ELon};
-    if (!Meets(in.view, area)) continue;
+    if (!in.Takes(map.Selected) || !Meets(in.view, area)) continue;
     if (!map.Selected && !in.settings.BorderON) continue;
     surface.SetPen(map.Selected ? MapSelectionColor : 0, map.Selected ? 2 : 1);
     surface.SetBrush(0, BrushStyle::None);
@@ -86,7 +86,7 @@ void DisplayFills(Surface& surface, const PaintInput& in) {
 void DisplayExcludes(Surface& surface, const PaintInput& in) {
   const bool editing = in.tool.Mode == ModeId::Exclude;
   for (const ExcludeRec& exclude : in.project.Excludes) {
-    if (!Meets(in.view, exclude.Box)) continue;
+    if (!in.Takes(exclude.Selected) || !Meets(in.view, exclude.Box)) continue;
     const PixelBox box = CanvasBox(in.view, exclude.Box);
     surface.SetPen(exclude.Selected ? in.settings.ExcColorSel : in.settings.ExcColorUns, editing ? 2 : 1);
     DrawEdges(surface, box);

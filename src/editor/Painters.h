@@ -9,6 +9,7 @@
 #include "core/Project.h"
 #include "core/Settings.h"
 #include "editor/GeometryIndex.h"
+#include "editor/MovingItems.h"
 #include "editor/ToolState.h"
 #include "editor/ViewState.h"
 #include "platform/Surface.h"
@@ -20,6 +21,9 @@
 
 namespace landsmith {
 
+/// While a selection is dragged, what stays lies in the base image and what moves on the overlay.
+enum class PaintPart { All, Still, Moving };
+
 struct PaintInput {
   const ProjectState& project;
   const AppSettings& settings;
@@ -30,6 +34,11 @@ struct PaintInput {
   const std::filesystem::path& bitmaps;  ///< tools/bmps
   /// Of this very state of the project; without one the painters make their own.
   const GeometryIndex* index = nullptr;
+  PaintPart part = PaintPart::All;
+  const MovingItems* moving = nullptr;  ///< with every part but All
+
+  /// Whether an item is of the part to be painted.
+  bool Takes(bool moves) const { return part == PaintPart::All || (part == PaintPart::Moving) == moves; }
 };
 
 void DisplayMaps(Surface& surface, const PaintInput& in);
@@ -39,7 +48,7 @@ void DisplayLands(Surface& surface, const PaintInput& in);
 void DisplayWaters(Surface& surface, const PaintInput& in);
 void DisplayPhotos(Surface& surface, const PaintInput& in);
 void DisplayExcludes(Surface& surface, const PaintInput& in);
-/// `drawn`: one byte a polygon or line, set for what was drawn; left alone while a selection is dragged.
+/// `drawn`: one byte a polygon or line, set for what was drawn; left alone unless the part is All.
 void DisplayPolys(Surface& surface, const PaintInput& in, std::vector<std::uint8_t>& drawn);
 void DisplayLines(Surface& surface, const PaintInput& in, std::vector<std::uint8_t>& drawn);
 void DisplayObjects(Surface& surface, const PaintInput& in);

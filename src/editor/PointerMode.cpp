@@ -15,7 +15,8 @@ std::unique_ptr<Gesture> PointerMode::Press(const PointerInput& in) {
 std::unique_ptr<Gesture> PointerMode::PressLeft(const PointerInput& in) {
   Session& session = m_context.session;
   if (!in.shift) ClearSelection(session.project, session.tool);
-  const bool hit = HitSelect(session.project, session.view, in.at, session.tool.Selected);
+  const bool hit =
+      HitSelect(session.project, m_context.display.Index(), session.view, in.at, session.tool.Selected);
   if (!hit) return StartRubberBox(m_context, in, LayerMask::All);
   // What may move goes to the overlay, so that the drag redraws nothing else.
   m_context.display.RebuildDisplay(session.tool.Selected.MapSelected ? LayerMask::DragWithMap

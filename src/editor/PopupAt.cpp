@@ -14,19 +14,21 @@ std::string LineTitle(const ProjectState& project, std::size_t line) {
 
 }  // namespace
 
-PopupTarget PopupTargetAt(const ProjectState& project, const ViewState& view, ModeId mode, PixelOffset at) {
+PopupTarget PopupTargetAt(const ProjectState& project, const ViewState& view, ModeId mode, PixelOffset at,
+                          const GeometryIndex& index) {
   PopupTarget target;
   target.At = at;
   target.Title = ToUpper(project.Name);
   const bool looks = mode == ModeId::Pointer || mode == ModeId::Line;
   if (!looks || !view.Shows(LayerKind::Lines)) return target;
   const WorldPixel place = ToWorldPixel(view, at);
-  if (const auto point = FindLinePointAt(project, place, view.Scale)) {
+  const auto pieces = index.Lines.PiecesMeeting(CursorBox(place, view.Scale));
+  if (const auto point = FindPointAt(project.Lines, pieces, place, view.Scale)) {
     target.Kind = "PtInLine";
     target.Item = point->item;
     target.Point = point->point;
     target.Title = "POINT # " + std::to_string(point->point + 1) + " from " + LineTitle(project, point->item);
-  } else if (const auto line = FindLineAt(project, place, view.Scale)) {
+  } else if (const auto line = FindSegmentAt(project.Lines, pieces, place, view.Scale)) {
     target.Kind = "Line";
     target.Item = line->item;
     target.Title = LineTitle(project, line->item);

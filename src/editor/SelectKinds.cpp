@@ -1,7 +1,7 @@
 #include "editor/SelectKinds.h"
 
-#include "vector/LineOperations.h"
-#include "vector/LineSelection.h"
+#include "vector/PathOperations.h"
+#include "vector/PathSelection.h"
 
 #include <algorithm>
 #include <cmath>
@@ -12,69 +12,49 @@ namespace {
 
 constexpr std::uint8_t SelectedBit = 128;
 
-template <class Records>
-void MarkAll(Records& records, bool state) {
-  for (auto& record : records)
-    record.Selected = state;
+template <class Record>
+void MarkAll(RecordList<Record>& records, bool state) {
+  for (std::size_t i = 0; i < records.size(); ++i)
+    if (records[i].Selected != state) records.Edit(i).Selected = state;
+}
+
+template <class Record>
+void InvertAll(RecordList<Record>& records) {
+  for (std::size_t i = 0; i < records.size(); ++i)
+    records.Edit(i).Selected = !records[i].Selected;
+}
+
+template <class Record>
+void DeleteMarked(RecordList<Record>& records) {
+  records.EraseIf([](const Record& record) { return record.Selected; });
 }
 
 template <class Records>
-void InvertAll(Records& records) {
-  for (auto& record : records)
-    record.Selected = !record.Selected;
-}
-
-template <class Records>
-void DeleteMarked(Records& records) {
-  std::erase_if(records, [](const auto& record) { return record.Selected; });
-}
-
-template <class Records>
-auto CountMarked(const Records& records) {
+std::int32_t CountMarked(const Records& records) {
   return static_cast<std::int32_t>(
       std::count_if(records.begin(), records.end(), [](const auto& record) { return record.Selected; }));
 }
 
-bool IsStrictlyInside(const GeoBox& box, const GeoBox& outer) {
-  return box.NLat < outer.NLat && box.SLat > outer.SLat && box.WLon > outer.WLon && box.ELon < outer.ELon;
-}
-
-template <class Records>
-void MarkInside(Records& records, const GeoBox& box) {
-  for (auto& record : records) {
-    if (IsStrictlyInside(record.Box, box)) record.Selected = true;
+template <class Record>
+void MarkInside(RecordList<Record>& records, const GeoBox& box, Selection& selection) {
+  for (std::size_t i = 0; i < records.size(); ++i) {
+    if (records[i].Selected || !IsStrictlyInside(records[i].Box, box)) continue;
+    records.Edit(i).Selected = true;
+    selection.Add();
   }
 }
 
-/// A polygon is selected as a whole or by its vertices, never both.
-void ClearPoints(PolyRec& poly) {
-  MarkAll(poly.Points, false);
-}
-
-void MarkPolys(std::vector<PolyRec>& polys, bool state) {
-  for (PolyRec& poly : polys) {
-    poly.Selected = state;
-    ClearPoints(poly);
-  }
-}
-
-void MarkPolysInside(std::vector<PolyRec>& polys, const GeoBox& box) {
-  for (PolyRec& poly : polys) {
-    if (!IsStrictlyInside(poly.Box, box)) continue;
-    poly.Selected = true;
-    ClearPoints(poly);
-  }
+bool IsSelectedCell(std::uint8_t cell) {
+  return cell >= SelectedBit;
 }
 
 void MarkCells(ClassGrid& grid, bool state) {
-  if (!grid.IsAllocated()) return;
-  for (std::uint8_t& cell : grid.Samples()) {
-    if (cell == 0) continue;
-    cell = static_cast<std::uint8_t>(state ? cell | SelectedBit : cell & ~SelectedBit);
-  }
+  grid.ChangeSet([state](std::uint8_t cell) {
+    return static_cast<std::uint8_t>(state ? cell | SelectedBit : cell & ~SelectedBit);
+  });
 }
 
-void MarkCellsInside(ClassGrid& grid, const ClassWindow& window, const GeoBox& box) {
+void MarkCellsInside(ClassGrid& grid, const ClassWindow& window, const GeoBox& box, Selection& selection) {
   if (!grid.IsAllocated()) return;
   const auto inside = [](double first, double last, double start, double step) {
     const auto held = [](double cell) { return static_cast<std::int32_t>(std::clamp(cell, -1.0, 1282.0)); };
@@ -85,23 +65,19 @@ void MarkCellsInside(ClassGrid& grid, const ClassWindow& window, const GeoBox& b
   const auto [top, bottom] = inside(-box.NLat, -box.SLat, -window.LandNorth, AreaHeight);
   for (std::int32_t row = top; row <= bottom; ++row)
     for (std::int32_t column = left; column <= right; ++column)
-      if (const std::uint8_t cell = grid.At(column, row); cell != 0)
+      if (const std::uint8_t cell = grid.At(column, row); cell != 0 && !IsSelectedCell(cell)) {
         grid.Set(column, row, cell | SelectedBit);
+        selection.Add();
+      }
 }
 
 std::int32_t CountCells(const ClassGrid& grid) {
-  const auto& cells = grid.StoredSamples();
-  return static_cast<std::int32_t>(
-      std::count_if(cells.begin(), cells.end(), [](std::uint8_t cell) { return cell >= SelectedBit; }));
+  return grid.CountSet(IsSelectedCell);
 }
 
 void DeleteCells(ClassGrid& grid, std::int32_t& count) {
-  if (!grid.IsAllocated()) return;
-  for (std::uint8_t& cell : grid.Samples()) {
-    if (cell < SelectedBit) continue;
-    cell = 0;
-    --count;
-  }
+  count -= CountCells(grid);
+  grid.ChangeSet([](std::uint8_t cell) { return IsSelectedCell(cell) ? std::uint8_t{0} : cell; });
 }
 
 template <class Paths>
@@ -125,9 +101,9 @@ void MarkKind(ProjectState& project, LayerKind kind, bool state, Selection& sele
     case LayerKind::Photos:
       return MarkAll(project.Photos, state);
     case LayerKind::Lines:
-      return SelectAllLines(project, state, selection);
+      return SelectAllPaths(project.Lines, state, selection);
     case LayerKind::Polys:
-      return MarkPolys(project.Polys, state);
+      return SelectAllPaths(project.Polys, state, selection);
     case LayerKind::Fills:
       return MarkAll(project.Fills, state);
     case LayerKind::Objects:
@@ -136,52 +112,6 @@ void MarkKind(ProjectState& project, LayerKind kind, bool state, Selection& sele
       return MarkAll(project.Excludes, state);
     case LayerKind::Grid:
       return;
-  }
-}
-
-void DeleteMarkedPolys(std::vector<PolyRec>& polys) {
-  constexpr std::size_t leastPoints = 3;
-  DeleteMarked(polys);
-  for (PolyRec& poly : polys) {
-    if (CountMarked(poly.Points) == 0) continue;
-    DeleteMarked(poly.Points);
-    SetPathBounds(poly);
-  }
-  std::erase_if(polys, [](const PolyRec& poly) { return poly.Points.size() < leastPoints; });
-}
-
-void MovePolys(std::vector<PolyRec>& polys, double dLon, double dLat,
-               const std::vector<std::uint8_t>& drawn) {
-  for (std::size_t i = 0; i < polys.size(); ++i) {
-    PolyRec& poly = polys[i];
-    if (i < drawn.size() && drawn[i] == 0) continue;
-    bool moved = false;
-    for (PolyPoint& point : poly.Points) {
-      if (!poly.Selected && !point.Selected) continue;
-      point.Lon += dLon;
-      point.Lat += dLat;
-      moved = true;
-    }
-    if (moved) SetPathBounds(poly);
-  }
-}
-
-void MoveBox(GeoBox& box, double dLon, double dLat) {
-  box.NLat += dLat;
-  box.SLat += dLat;
-  box.WLon += dLon;
-  box.ELon += dLon;
-}
-
-void MoveBoxes(ProjectState& project, double dLon, double dLat) {
-  for (ObjectRec& object : project.Objects) {
-    if (!object.Selected) continue;
-    object.Lat += dLat;
-    object.Lon += dLon;
-    MoveBox(object.Box, dLon, dLat);
-  }
-  for (ExcludeRec& exclude : project.Excludes) {
-    if (exclude.Selected) MoveBox(exclude.Box, dLon, dLat);
   }
 }
 
@@ -221,44 +151,61 @@ void SelectEverything(ProjectState& project, const ViewState& view, bool state, 
 }
 
 void InvertShownSelection(ProjectState& project, const ViewState& view, Selection& selection) {
-  if (view.Shows(LayerKind::Lines)) InvertLineSelection(project, selection);
-  if (view.Shows(LayerKind::Polys)) {
-    for (PolyRec& poly : project.Polys) {
-      if (poly.Selected || CountMarked(poly.Points) == 0) poly.Selected = !poly.Selected;
-    }
-  }
+  if (view.Shows(LayerKind::Lines)) InvertPathSelection(project.Lines, selection);
+  if (view.Shows(LayerKind::Polys)) InvertPathSelection(project.Polys, selection);
   if (view.Shows(LayerKind::Objects)) InvertAll(project.Objects);
   if (view.Shows(LayerKind::Photos)) InvertAll(project.Photos);
   if (view.Shows(LayerKind::Fills)) InvertAll(project.Fills);
   RecountSelection(project, selection);
 }
 
-void SelectInBox(ProjectState& project, const ViewState& view, const GeoBox& box, ToolState& tool) {
-  if (view.Shows(LayerKind::Lines)) SelectLinesInBox(project, box, tool.Selected);
-  if (tool.Mode != ModeId::Line) {
-    if (view.Shows(LayerKind::Polys)) MarkPolysInside(project.Polys, box);
-    if (view.Shows(LayerKind::Fills)) MarkInside(project.Fills, box);
-    if (view.Shows(LayerKind::Excludes)) MarkInside(project.Excludes, box);
-    if (view.Shows(LayerKind::Photos)) MarkInside(project.Photos, box);
-    if (view.Shows(LayerKind::Lands)) MarkCellsInside(project.Lands, view.Classes, box);
-    if (view.Shows(LayerKind::Waters)) MarkCellsInside(project.Waters, view.Classes, box);
-    if (view.Shows(LayerKind::Meshes)) MarkInside(project.Meshes, box);
-    if (view.Shows(LayerKind::Objects)) MarkInside(project.Objects, box);
+void SelectInBox(ProjectState& project, const GeometryIndex& index, const ViewState& view, const GeoBox& box,
+                 ToolState& tool) {
+  Selection& selection = tool.Selected;
+  const auto takes = [&](LayerKind kind, ModeId own) {
+    const bool oneKind =
+        tool.Mode == ModeId::Line || tool.Mode == ModeId::Poly || tool.Mode == ModeId::Object;
+    return view.Shows(kind) && (!oneKind || tool.Mode == own);
+  };
+  constexpr ModeId any = ModeId::Pointer;
+  if (takes(LayerKind::Maps, any)) {
+    for (std::size_t i = 0; i < project.Maps.size(); ++i) {
+      const MapLevel& shown = project.Maps[i].Level[0];
+      if (project.Maps[i].Selected ||
+          !IsStrictlyInside({shown.NLat, shown.SLat, shown.WLon, shown.ELon}, box))
+        continue;
+      project.Maps.Edit(i).Selected = true;
+      selection.Add();
+      selection.MapSelected = true;
+    }
   }
-  RecountSelection(project, tool.Selected);
+  if (takes(LayerKind::Lines, ModeId::Line))
+    SelectPathsInBox(project.Lines, index.Lines.Meeting(box), box, selection);
+  if (takes(LayerKind::Polys, ModeId::Poly))
+    SelectPathsInBox(project.Polys, index.Polys.Meeting(box), box, selection);
+  if (takes(LayerKind::Fills, any)) MarkInside(project.Fills, box, selection);
+  if (takes(LayerKind::Excludes, any)) MarkInside(project.Excludes, box, selection);
+  if (takes(LayerKind::Photos, any)) MarkInside(project.Photos, box, selection);
+  if (takes(LayerKind::Lands, any)) MarkCellsInside(project.Lands, view.Classes, box, selection);
+  if (takes(LayerKind::Waters, any)) MarkCellsInside(project.Waters, view.Classes, box, selection);
+  if (takes(LayerKind::Meshes, any)) MarkInside(project.Meshes, box, selection);
+  if (takes(LayerKind::Objects, ModeId::Object)) MarkInside(project.Objects, box, selection);
 }
 
-bool HitSelect(ProjectState& project, const ViewState& view, PixelOffset at, Selection& selection) {
+bool HitSelect(ProjectState& project, const GeometryIndex& index, const ViewState& view, PixelOffset at,
+               Selection& selection) {
   if (!view.Shows(LayerKind::Lines)) return false;
   const WorldPixel place = ToWorldPixel(view, at);
-  return HitLinePoint(project, place, view.Scale, selection).has_value() ||
-         HitLine(project, place, view.Scale, selection).has_value();
+  const auto pieces = index.Lines.PiecesMeeting(CursorBox(place, view.Scale));
+  return HitPoint(project.Lines, pieces, place, view.Scale, selection).has_value() ||
+         HitPath(project.Lines, pieces, place, view.Scale, selection).has_value();
 }
 
 void DeleteSelectedItems(ProjectState& project, Selection& selection) {
-  DeleteSelectedLines(project, selection);
-  DeleteSelectedPoints(project, selection);
-  DeleteMarkedPolys(project.Polys);
+  DeleteSelectedPaths(project.Lines, selection);
+  DeleteSelectedPathPoints(project.Lines, selection);
+  DeleteSelectedPaths(project.Polys, selection);
+  DeleteSelectedPathPoints(project.Polys, selection);
   DeleteMarked(project.Maps);
   DeleteMarked(project.Objects);
   DeleteMarked(project.Excludes);
@@ -268,16 +215,6 @@ void DeleteSelectedItems(ProjectState& project, Selection& selection) {
   DeleteCells(project.Lands, project.NoOfLands);
   DeleteCells(project.Waters, project.NoOfWaters);
   selection = Selection{};
-}
-
-void MoveSelection(ProjectState& project, const ViewState& view, ModeId mode, double dx, double dy) {
-  const double dLon = dx / view.Scale.PixelsPerDegLon, dLat = -dy / view.Scale.PixelsPerDegLat;
-  const bool known = view.LinesDrawn.size() == project.Lines.size();
-  MoveSelectedLines(project, dLon, dLat,
-                    known ? std::span<const std::uint8_t>(view.LinesDrawn) : std::span<const std::uint8_t>());
-  if (mode == ModeId::Line) return;
-  MoveBoxes(project, dLon, dLat);
-  MovePolys(project.Polys, dLon, dLat, view.PolysDrawn);
 }
 
 }  // namespace landsmith

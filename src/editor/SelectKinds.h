@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/Project.h"
+#include "editor/GeometryIndex.h"
 #include "editor/ToolState.h"
 #include "editor/ViewState.h"
 
@@ -21,17 +22,15 @@ void SelectEverything(ProjectState& project, const ViewState& view, bool state, 
 /// Turns round lines, polygons, objects, photos and fills that are shown.
 void InvertShownSelection(ProjectState& project, const ViewState& view, Selection& selection);
 /// Adds the items that lie strictly inside the box, of the kinds that are shown and, in the mode of one kind,
-/// of that kind alone.
-void SelectInBox(ProjectState& project, const ViewState& view, const GeoBox& box, ToolState& tool);
+/// of that kind alone. `index` describes the project.
+void SelectInBox(ProjectState& project, const GeometryIndex& index, const ViewState& view, const GeoBox& box,
+                 ToolState& tool);
 
 /// Adds what lies under the mouse: a vertex of a line, else a line. False when nothing does.
-bool HitSelect(ProjectState& project, const ViewState& view, PixelOffset at, Selection& selection);
+bool HitSelect(ProjectState& project, const GeometryIndex& index, const ViewState& view, PixelOffset at,
+               Selection& selection);
 
 /// Every selected item and point.
 void DeleteSelectedItems(ProjectState& project, Selection& selection);
-
-/// By pixels: in Line mode lines alone; otherwise objects, excludes, lines and polygons. Of lines and
-/// polygons those that are drawn.
-void MoveSelection(ProjectState& project, const ViewState& view, ModeId mode, double dx, double dy);
 
 }  // namespace landsmith

@@ -57,7 +57,6 @@ void StartSession(Session& session, const std::filesystem::path& shippedData) {
   session.settings = LoadSettings(ini, session.folders.AppPath);
 
   session.project = EmptyProject(session.settings);
-  ++session.Revision;
   TakeViewFrom(session.view, session.project);
 
   WarnOfMissingBitmaps(session);

@@ -5,7 +5,9 @@
 #include "core/Project.h"
 #include "core/RecentFiles.h"
 #include "core/Settings.h"
+#include "editor/Clipboard.h"
 #include "editor/ToolState.h"
+#include "editor/UndoRing.h"
 #include "editor/ViewState.h"
 #include "platform/Dialogs.h"
 #include "platform/ProgramFolders.h"
@@ -14,7 +16,6 @@
 #include "vector/TextureCatalog.h"
 
 #include <cstddef>
-#include <cstdint>
 #include <utility>
 
 namespace landsmith {
@@ -45,8 +46,9 @@ struct Session {
   std::size_t currentLineTexture = 0, currentPolyTexture = 0;  ///< 0-based place in the catalogue
   LineDefaults rgnLines;
 
-  /// Rises with every change of the project: what was derived from an older one is stale.
-  std::uint64_t Revision = 1;
+  UndoRing undo;
+  Clipboard clipboard;
+  int editsOpen = 0;  ///< Edits under way, one inside the other
 };
 
 /// Start-up without a window: settings, recent files, simulator, catalogues, work folder, the view and the

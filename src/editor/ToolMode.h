@@ -6,6 +6,7 @@
 #include "platform/Surface.h"
 
 #include <memory>
+#include <string>
 
 namespace landsmith {
 
@@ -28,13 +29,40 @@ struct KeyInput {
   bool alt = false;
 };
 
-enum class CursorShape { Arrow, Cross, Pan, Zoom, Line, Move, Busy };
+/// Fill1 to Fill32: by the side of the brush.
+enum class CursorShape {
+  Arrow,
+  Cross,
+  Pan,
+  Zoom,
+  Map,
+  Land,
+  Water,
+  Photo,
+  Line,
+  Poly,
+  Fill1,
+  Fill2,
+  Fill4,
+  Fill8,
+  Fill16,
+  Fill32,
+  Object,
+  Exclude,
+  Mesh,
+  Move,
+  Resize,
+  Rotate,
+  Paste,
+  Measure,
+  Busy
+};
 
 /// One-shot timers that the window keeps for the editor; starting one anew restarts it.
 enum class TimerId {
   DragSettle,  ///< until its tick a press on a selection is no drag
   DragRedraw,  ///< puts the repaints of quick moves together
-  Rubber,      ///< rubber segment of a line under way, label under the mouse
+  Rubber,      ///< rubber segment of a figure under way, the measure, the label under the mouse
 };
 
 /// A drag. Exactly one of End and Cancel is called: release; or focus lost, mode changed, project replaced.
@@ -59,7 +87,10 @@ public:
   virtual bool Key(const KeyInput&) { return false; }  ///< true: used
   virtual void Tick(TimerId) {}
   virtual CursorShape Cursor() const { return CursorShape::Arrow; }
-  virtual void Leave() {}                ///< ends what is half made
+  virtual void Leave() {}    ///< ends what is half made
+  virtual void Abandon() {}  ///< forgets what is half made; the project is about to be restored
+  /// What a click does at this moment, in a few words for the status bar: "Click: start a line".
+  virtual std::string Hint() const { return {}; }
   virtual void Paint(Surface&) const {}  ///< rubber lines
 };
 

@@ -17,7 +17,8 @@ struct ToolState {
   bool NextClickIsRight = false;
   bool SelectAllOn = false;  ///< the next Select All clears the selection
   bool ViewAllOn = false;    ///< the kind of the mode at hand is alone on the canvas
-  bool Dragging = false;     ///< a selection is being moved: painters then leave the drawn flags alone
+  bool MeasureOn = false;
+  bool PasteArmed = false;  ///< the next left press pastes
 };
 
 }  // namespace landsmith

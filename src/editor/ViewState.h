@@ -8,7 +8,7 @@
 #include "core/Grid.h"
 #include "core/Project.h"
 #include "platform/Surface.h"
-#include "vector/LineSelection.h"
+#include "vector/PathSelection.h"
 
 #include <array>
 #include <cstdint>

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <vector>
 
 namespace landsmith {
 namespace {
@@ -20,7 +21,7 @@ bool IsSelectedCell(std::uint8_t sample) {
 std::array<bool, 25> SelectedTiles(const ClassGrid& grid) {
   std::array<bool, TileCount * TileCount> flags{};
   if (!grid.IsAllocated()) return flags;
-  const auto& samples = grid.StoredSamples();
+  const std::vector<std::uint8_t> samples = grid.Samples();
   for (std::size_t row = 0; row < ClassGridSide; ++row) {
     const auto rowBegin = samples.begin() + static_cast<std::ptrdiff_t>(row * ClassGridSide);
     for (std::size_t i = 0; i < TileCount; ++i) {
@@ -36,8 +37,7 @@ std::array<bool, 25> SelectedTiles(const ClassGrid& grid) {
 }
 
 bool HasSelectedTile(const ClassGrid& grid) {
-  const auto& samples = grid.StoredSamples();
-  return std::any_of(samples.begin(), samples.end(), IsSelectedCell);
+  return grid.CountSet(IsSelectedCell) > 0;
 }
 
 }  // namespace landsmith

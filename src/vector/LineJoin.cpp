@@ -2,7 +2,7 @@
 
 #include "core/Settings.h"
 #include "vector/LineOperations.h"
-#include "vector/LineSelection.h"
+#include "vector/PathSelection.h"
 
 #include <cmath>
 #include <iterator>
@@ -69,16 +69,16 @@ void JoinLineRecords(ProjectState& project, std::size_t a, std::size_t b, bool r
                      Selection* selection) {
   Selection notKept;
   Selection& counted = selection == nullptr ? notKept : *selection;
-  LineRec& kept = project.Lines[a];
-  LineRec& added = project.Lines[b];
+  MarkPath(project.Lines, a, true, counted);
+  MarkPath(project.Lines, b, false, counted);
+  LineRec& kept = project.Lines.Edit(a);
+  LineRec added = project.Lines[b];
   if (reverseA) ReverseLine(kept);
   if (reverseB) ReverseLine(added);
-  MarkLine(kept, true, counted);
-  MarkLine(added, false, counted);
   if (!added.Points.empty())
     kept.Points.insert(kept.Points.end(), added.Points.begin() + 1, added.Points.end());
   SetPathBounds(kept);
-  DeleteLine(project, b);
+  project.Lines.Erase(b);
 }
 
 std::string JoinLines(ProjectState& project, Selection& selection) {

@@ -8,8 +8,8 @@ namespace landsmith {
 void RebuildLoadedProject(ProjectState& project) {
   ComputeGridBoxes(project);
   const ViewScale scale = UpdateScale(project.Zoom, project.LatDispCenter);
-  for (ObjectRec& object : project.Objects)
-    ComputeObjectFootprint(object, scale);
+  for (std::size_t i = 0; i < project.Objects.size(); ++i)
+    ComputeObjectFootprint(project.Objects.Edit(i), scale);
 }
 
 }  // namespace landsmith

@@ -12,7 +12,7 @@ namespace landsmith {
 namespace {
 
 template <class Record>
-bool AnySelected(const std::vector<Record>& records) {
+bool AnySelected(const RecordList<Record>& records) {
   return std::any_of(records.begin(), records.end(), [](const Record& record) { return record.Selected; });
 }
 

@@ -75,7 +75,7 @@ void ClassItemList::Add() {
 void ClassItemList::Edit() {
   const int row = m_controls.list->currentRow();
   if (row < 0) return;
-  ClassItemRec& item = m_items[static_cast<std::size_t>(row)];
+  ClassItemRec& item = m_items.Edit(static_cast<std::size_t>(row));
   const auto text = m_session.dialogs.InputText(EditPrompt, item.Text);
   if (text && SetText(item, *text)) ShowAll(row);
 }
@@ -83,7 +83,7 @@ void ClassItemList::Edit() {
 void ClassItemList::Delete() {
   const int row = m_controls.list->currentRow();
   if (row < 0) return;
-  m_items.erase(m_items.begin() + row);
+  m_items.Erase(static_cast<std::size_t>(row));
   ShowAll(std::min(row, static_cast<int>(m_items.size()) - 1));
 }
 
@@ -92,7 +92,7 @@ void ClassItemList::ChooseColor() {
   if (row < 0) return;
   const auto color = m_session.dialogs.ChooseColor(m_controls.color->Color());
   if (!color) return;
-  SetColor(m_items[static_cast<std::size_t>(row)], *color);
+  SetColor(m_items.Edit(static_cast<std::size_t>(row)), *color);
   ShowAll(row);
 }
 

@@ -26,7 +26,7 @@ public:
   };
   ClassItemList(Session& session, const Controls& controls, QObject* parent);
 
-  const std::vector<ClassItemRec>& Items() const { return m_items; }
+  const RecordList<ClassItemRec>& Items() const { return m_items; }
 
 private:
   void Add();
@@ -40,7 +40,7 @@ private:
 
   Session& m_session;
   Controls m_controls;
-  std::vector<ClassItemRec> m_items;
+  RecordList<ClassItemRec> m_items;
 };
 
 }  // namespace landsmith

@@ -81,6 +81,8 @@ QCursor ToQCursor(CursorShape shape) {
       return PictureCursor(QStringLiteral("Line"), {16, 16});
     case CursorShape::Move:
       return PictureCursor(QStringLiteral("Move"), {16, 16});
+    default:
+      break;
   }
   return QCursor(Qt::ArrowCursor);
 }

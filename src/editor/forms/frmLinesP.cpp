@@ -52,7 +52,7 @@ void frmLinesP::SetMode(Mode mode) {
 void frmLinesP::ShowOne(std::size_t line) {
   m_line = line;
   SetMode(Mode::One);
-  const LineRec& record = m_session.project.Lines.at(line);
+  const LineRec& record = m_session.project.Lines[line];
   m_ui->txtName->setText(ToQString(record.Name));
   m_type->Show(record.Type, record.Color);
   if (!record.Points.empty())
@@ -72,7 +72,7 @@ void frmLinesP::ShowMany() {
   }
   m_ui->cmdReverse->setEnabled(!selected.empty());
   if (selected.empty()) return;
-  const std::vector<LineRec>& lines = m_session.project.Lines;
+  const RecordList<LineRec>& lines = m_session.project.Lines;
   const LineRec& first = lines[selected.front()];
   const bool alike = std::all_of(selected.begin(), selected.end(), [&](std::size_t line) {
     return lines[line].Type == first.Type && lines[line].Color == first.Color;
@@ -118,7 +118,7 @@ void frmLinesP::ChangeWidth() {
   if (m_mode != Mode::Defaults) {
     Edit edit(m_session, m_display);
     for (const std::size_t line : Lines())
-      SetLineWidth(edit.Project().Lines[line], *width);
+      SetLineWidth(edit.Project().Lines.Edit(line), *width);
   }
   m_ui->txtWidth1->setText(text);
   m_ui->txtWidth2->setText(text);
@@ -143,7 +143,7 @@ void frmLinesP::ChangeProgressiveWidth() {
   if (m_mode != Mode::Defaults) {
     Edit edit(m_session, m_display);
     for (const std::size_t line : Lines())
-      SetLineWidths(edit.Project().Lines[line], widths->first, widths->second);
+      SetLineWidths(edit.Project().Lines.Edit(line), widths->first, widths->second);
   }
   m_ui->txtWidth->setText(ToQString(NumberText((widths->first + widths->second) / 2)));
 }
@@ -154,14 +154,14 @@ void frmLinesP::ChangeOrder() {
   if (m_ui->opUp->isChecked()) order = DrawingOrder::Up;
   if (m_ui->opDown->isChecked()) order = DrawingOrder::Down;
   Edit edit(m_session, m_display);
-  m_line = ChangeLineOrder(edit.Project(), m_line, order);
+  m_line = ChangePathOrder(edit.Project().Lines, m_line, order);
   ShowOrder();
 }
 
 void frmLinesP::Reverse() {
   Edit edit(m_session, m_display);
   for (const std::size_t line : Lines())
-    ReverseLine(edit.Project().Lines[line]);
+    ReverseLine(edit.Project().Lines.Edit(line));
   if (m_mode != Mode::One) return;
   const QString first = m_ui->txtWidth1->text();
   m_ui->txtWidth1->setText(m_ui->txtWidth2->text());
@@ -208,10 +208,10 @@ void frmLinesP::ApplyToLines() {
   const bool renames = m_mode == Mode::One && name != m_session.project.Lines[m_line].Name;
   if (!choice && !renames) return;
   Edit edit(m_session, m_display);
-  if (renames) edit.Project().Lines[m_line].Name = name;
+  if (renames) edit.Project().Lines.Edit(m_line).Name = name;
   if (!choice) return;
   for (const std::size_t line : Lines()) {
-    LineRec& record = edit.Project().Lines[line];
+    LineRec& record = edit.Project().Lines.Edit(line);
     record.Type = choice->Type;
     record.Color = choice->Color.value_or(record.Color);
   }

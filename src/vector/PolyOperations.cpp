@@ -1,0 +1,8 @@
+#include "vector/PolyOperations.h"
+
+namespace landsmith {
+
+void PointsChanged(PolyRec&) {}
+void PointsMoved(PolyRec&) {}
+
+}  // namespace landsmith
