@@ -20,6 +20,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <utility>
 
 namespace landsmith {
 
@@ -117,7 +118,11 @@ void frmStart::SetStatus(const StatusPanels& panels) {
 }
 
 void frmStart::SetCursor(CursorShape shape) {
-  m_ui->canvas->setCursor(ToQCursor(shape));
+  // The editor says it at every event; drawing the picture each time would be felt.
+  const std::pair<CursorShape, double> wanted(shape, devicePixelRatioF());
+  if (m_cursor == wanted) return;
+  m_cursor = wanted;
+  m_ui->canvas->setCursor(ToQCursor(shape, wanted.second));
 }
 
 void frmStart::ShowContextMenu(const PopupTarget& target) {

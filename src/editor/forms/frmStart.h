@@ -14,6 +14,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <utility>
 
 class QAction;
 class QLabel;
@@ -94,6 +95,7 @@ private:
   std::unique_ptr<PopupMenus> m_popups;
   std::map<TimerId, QTimer*> m_timers;
   QLabel* m_mouseLabel = nullptr;
+  std::optional<std::pair<CursorShape, double>> m_cursor;  ///< as shown, at its device pixel ratio
 };
 
 }  // namespace landsmith
