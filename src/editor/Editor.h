@@ -47,6 +47,9 @@ public:
   void OpenProjectCommand();              ///< mnuFOpen: question, dialog
   bool OpenProject(const std::filesystem::path& path);
   void OpenRecent(std::size_t slot);
+  /// Opens a copy that a crash has left of the project whose file is `projectFile` (empty: none yet). It
+  /// counts as changed and is no recent file.
+  bool OpenRecovered(const std::filesystem::path& copy, const std::string& projectFile);
   bool Save();      ///< mnuFSave
   bool SaveAs();    ///< mnuFSaveAs
   bool MayClose();  ///< the exit question
@@ -109,6 +112,7 @@ private:
   void PressByKey(const KeyInput& in);
   void ShowStatus();
   void ShowCursor();
+  bool TakeProject(const std::filesystem::path& file, const std::string& projectFile);
   void LeaveProject();
   void ProjectReplaced();
   std::optional<std::filesystem::path> AskProjectPath();
