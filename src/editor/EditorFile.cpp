@@ -64,6 +64,7 @@ void Editor::LeaveProject() {
 void Editor::ProjectReplaced() {
   m_session.undo.Reset();
   m_session.tool = ToolState{};
+  m_host.FollowPoint({});
   TakeMode(ModeId::Pointer);
   RecountSelection(m_session.project, m_session.tool.Selected);
   ViewState& view = m_session.view;
