@@ -45,6 +45,7 @@ void Editor::EndGesture() {
 
 void Editor::TakeMode(ModeId mode) {
   m_session.tool.Mode = mode;
+  m_session.tool.Walk.reset();
   m_mode = MakeMode(mode, m_context);
 }
 

@@ -5,10 +5,12 @@
 #include "editor/Display.h"
 #include "editor/Edit.h"
 #include "editor/EditorHost.h"
+#include "editor/Find.h"
 #include "editor/ModeContext.h"
 #include "editor/Session.h"
 #include "editor/StatusText.h"
 #include "editor/ToolMode.h"
+#include "editor/Walker.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -20,6 +22,9 @@
 #include <vector>
 
 namespace landsmith {
+
+/// Whether the canvas goes to the vertex that a walk begins at.
+enum class WalkView { Centre, Keep };
 
 class Editor {
 public:
@@ -81,8 +86,14 @@ public:
   /// The next press on the canvas goes to `pick` and nowhere else; a form that waits for a place on the map
   /// asks for it. An empty function takes the request back.
   void PickPoint(std::function<void(const PointerInput&)> pick);
-  /// The walk along vertices by the arrow keys begins at this vertex, "PtInLine" or "PtInPoly".
-  void StartWalk(const PopupTarget& point);
+  /// The walk along vertices by the arrow keys begins at this vertex, "PtInLine" or "PtInPoly"; it alone is
+  /// selected then. Any press on the canvas and Esc end it. Ignores a target that is gone.
+  void StartWalk(const PopupTarget& point, WalkView view = WalkView::Centre);
+  /// One step of a walk from this vertex, for the buttons of a form.
+  void Walk(const PopupTarget& from, WalkStep step);
+  /// Selects what is found alone, shows its kind and goes there with a beep, or says that nothing was found.
+  /// `lastHit` as in FindItems.
+  void Find(const FindRequest& request, FindScope scope, std::size_t& lastHit);
   /// The commands of a context menu; `target` as ShowContextMenu gave it. Both ignore a target that is gone.
   void DeleteTarget(const PopupTarget& target);
   void ShowTargetProperties(const PopupTarget& target);
@@ -107,6 +118,10 @@ private:
   void OpenPendingMenu();
   bool KeyState(const KeyInput& in, bool down);
   void PressByKey(const KeyInput& in);
+  bool WalkKey(const KeyInput& in);  ///< true: used
+  void WalkTo(const VertexRef& vertex, WalkView view);
+  void StepWalk(WalkStep step);
+  void DeleteWalked();
   void ShowStatus();
   void ShowCursor();
   void LeaveProject();

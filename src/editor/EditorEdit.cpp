@@ -84,6 +84,8 @@ void Editor::DeleteTarget(const PopupTarget& target) {
 void Editor::ShowTargetProperties(const PopupTarget& target) {
   if (target.Kind.empty())
     m_host.ShowProjectProperties();
+  else if (VertexOf(target) && TargetExists(m_session.project, target))
+    m_host.ShowPointForm(target);
   else if (TargetExists(m_session.project, target))
     m_host.ShowLineProperties(target.Item);
 }

@@ -63,6 +63,7 @@ void Editor::LeaveProject() {
 /// The view, the mode and the selection after `m_session.project` has become another one.
 void Editor::ProjectReplaced() {
   m_session.tool = ToolState{};
+  m_host.FollowPoint({});
   TakeMode(ModeId::Pointer);
   RecountSelection(m_session.project, m_session.tool.Selected);
   ViewState& view = m_session.view;

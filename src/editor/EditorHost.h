@@ -36,7 +36,8 @@ public:
   virtual void ShowMapProperties(std::size_t /*map*/) {}
   /// Opens `frmPoints0P` for a vertex, "PtInLine" or "PtInPoly"; the canvas stays alive beside it.
   virtual void ShowPointForm(const PopupTarget& /*point*/) {}
-  /// The walk along vertices has come to this one: a point form that is open shows it.
+  /// The walk along vertices has come to this one: a point form that is open shows it. Without a kind: the
+  /// project has been replaced and the point is gone.
   virtual void FollowPoint(const PopupTarget& /*point*/) {}
   /// The mode's form (`frmLandsP`, ...) beside the canvas, where the mode has one, or none any more.
   virtual void ShowModeForm(std::optional<ModeId> /*mode*/) {}

@@ -29,6 +29,7 @@ void Editor::Press(const PointerInput& in) {
   m_host.StopTimer(TimerId::Rubber);
   m_host.ShowHoverLabel({}, in.raw);
   if (!HasProject() || m_session.view.BusyPainting) return;
+  m_session.tool.Walk.reset();
   if (m_gesture) {  // a second button during a drag ends it
     EndGesture();
     ShowCursor();
@@ -166,6 +167,7 @@ void Editor::PressByKey(const KeyInput& in) {
 
 void Editor::KeyDown(const KeyInput& in) {
   m_session.tool.InsertPoints = false;
+  if (WalkKey(in)) return;
   if (in.code == DeleteKey) {
     if (m_session.tool.Selected.SelectedCount >= 1) DeleteSelected();
   } else if (in.code == 'P' && in.alt) {
