@@ -31,6 +31,10 @@ void Edit::KeepUndoPoint() {
   const bool changed = present != m_before->Project;
   present.Dirty = changed ? dirty : m_wasDirty;
   if (!changed || m_undo == UndoPoint::Share || !m_session.settings.BackUpON) return;
+  if (m_undo == UndoPoint::Withdraw) {
+    m_session.undo.Withdraw(m_session.project);
+    return;
+  }
   m_session.undo.Take(std::move(*m_before),
                       static_cast<std::size_t>(std::max(m_session.settings.UndoDepth, 1)));
 }

@@ -46,9 +46,14 @@ std::optional<std::filesystem::path> ChooseToSave(Session& session) {
   return path;
 }
 
-void WriteProjectTo(Session& session, const std::filesystem::path& path) {
+/// A polygon that is being drawn is left out until it has enough vertices to be one.
+void WriteProjectTo(Session& session, const std::filesystem::path& path, bool drawing) {
   StoreView(session.view, session.project);
-  SaveProjectFile(session.project, path, session.folders.AppPath);
+  ProjectState stored = session.project;
+  if (drawing && session.tool.Mode == ModeId::Poly && !stored.Polys.empty() &&
+      stored.Polys.back().Points.size() < PathTraits<PolyRec>::LeastPoints)
+    stored.Polys.Truncate(stored.Polys.size() - 1);
+  SaveProjectFile(stored, path, session.folders.AppPath);
   session.project.Dirty = false;
 }
 
@@ -56,8 +61,8 @@ void WriteProjectTo(Session& session, const std::filesystem::path& path) {
 
 /// Ends what is under way while the project that it belongs to is still there.
 void Editor::LeaveProject() {
-  EndGesture();
-  m_mode->Leave();
+  CancelPick();
+  ResetToolState();
 }
 
 /// The view, the mode and the selection after `m_session.project` has become another one.
@@ -75,7 +80,7 @@ void Editor::ProjectReplaced() {
   m_session.project.Dirty = false;
   m_display.DisplayAll();
   ShowStatus();
-  ShowCursor();
+  ShowToolState();
   m_host.RefreshUi();
 }
 
@@ -148,7 +153,7 @@ bool Editor::Save() {
   EndGesture();
   if (!MaySave()) return SaveAs();
   return Guard([&] {
-    WriteProjectTo(m_session, MapPath(m_session.project.ProjectFile));
+    WriteProjectTo(m_session, MapPath(m_session.project.ProjectFile), m_mode->IsDrawing());
     m_host.RefreshUi();
   });
 }
@@ -160,7 +165,7 @@ bool Editor::SaveAs() {
   Guard([&] {
     const auto path = ChooseToSave(m_session);
     if (!path) return;
-    WriteProjectTo(m_session, *path);
+    WriteProjectTo(m_session, *path, m_mode->IsDrawing());
     m_session.project.ProjectFile = PathText(*path);
     saved = true;
     m_host.RefreshUi();

@@ -13,9 +13,12 @@ namespace landsmith {
 
 /// What a context menu is about; empty for the general menu.
 struct PopupTarget {
-  std::string Kind;                 ///< "Line", "PtInLine", or empty
-  std::string Title;                ///< "Coast road  LINE # 3"
-  std::size_t Item = 0, Point = 0;  ///< 0-based
+  /// "PtInLine", "PtInPoly", "Line", "Poly", "Object", "Exclude", "Photo", "Land", "Water", "Fill", "Mesh",
+  /// "Map", or empty.
+  std::string Kind;
+  std::string Title;  ///< "Coast road  LINE # 3"
+  /// 0-based; of a class cell the Item is row * 1281 + column.
+  std::size_t Item = 0, Point = 0;
   PixelOffset At;
 };
 
@@ -51,6 +54,8 @@ public:
   virtual void StopTimer(TimerId) {}
   /// The label beside the mouse, its top left corner at `at`; an empty text hides it.
   virtual void ShowHoverLabel(std::string_view /*text*/, PixelPoint /*at*/) {}
+  /// What a click or drag does at this moment, in a few words for the status bar; empty for nothing.
+  virtual void SetHint(std::string_view /*text*/) {}
 };
 
 }  // namespace landsmith

@@ -7,7 +7,7 @@ namespace landsmith {
 void Editor::ShowRestored() {
   m_display.DisplayAll();
   ShowStatus();
-  ShowCursor();
+  ShowToolState();
   m_host.RefreshUi();
 }
 
