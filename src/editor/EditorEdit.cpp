@@ -1,5 +1,5 @@
 // Commands on the selection and on what a context menu names.
-#include "core/GridSnap.h"
+#include "vector/GridSnap.h"
 #include "editor/Editor.h"
 #include "editor/PopupAt.h"
 #include "editor/SelectKinds.h"

@@ -54,10 +54,6 @@ std::optional<std::size_t> NamedPoint(const PolyRec& poly, std::string_view numb
   return static_cast<std::size_t>(*point) - 1;
 }
 
-bool SamePlace(const PolyPoint& a, const PolyPoint& b) {
-  return a.Lat == b.Lat && a.Lon == b.Lon;
-}
-
 }  // namespace
 
 PolyRec NewPoly(LatLon first, LatLon second, float altitudeMetres, std::int32_t color) {
