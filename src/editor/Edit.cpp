@@ -1,5 +1,7 @@
 #include "editor/Edit.h"
 
+#include "editor/MapView.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -30,6 +32,7 @@ void Edit::KeepUndoPoint() {
   m_session.project.Dirty = before.Dirty;
   const bool changed = m_session.project != before;
   m_session.project.Dirty = changed || m_wasDirty;
+  if (!(m_session.project.Maps == before.Maps)) LoadMapView(m_session, m_display.Surfaces());
   if (!changed || m_undo == UndoPoint::Share || !m_session.settings.BackUpON) return;
   m_session.undo.Take(std::move(*m_before),
                       static_cast<std::size_t>(std::max(m_session.settings.UndoDepth, 1)));

@@ -66,6 +66,7 @@ void Editor::ChooseMode(ModeId mode) {
 }
 
 void Editor::ShowCursor() {
+  if (m_pick && !m_gesture) return m_host.SetCursor(CursorShape::Cross);
   m_host.SetCursor(m_gesture ? m_gesture->Cursor() : m_mode->Cursor());
 }
 

@@ -79,7 +79,8 @@ public:
   /// mnuVSummer ...: an exact view name.
   void SetMapView(std::string_view view);
   /// The next press on the canvas goes to `pick` and nowhere else; a form that waits for a place on the map
-  /// asks for it. An empty function takes the request back.
+  /// asks for it. An empty function takes the request back. A right press, Esc and the end of the project end
+  /// the wait: `pick` then gets a press of the right button. The view may be panned and zoomed meanwhile.
   void PickPoint(std::function<void(const PointerInput&)> pick);
   /// The walk along vertices by the arrow keys begins at this vertex, "PtInLine" or "PtInPoly".
   void StartWalk(const PopupTarget& point);
@@ -102,6 +103,9 @@ private:
   void EndGesture();
   void ReleaseGesture(const PointerInput& in);
   void ShowRestored();
+  void LoadMaps(void (*load)(Session&, CanvasSurfaces&));
+  bool TakePick(const PointerInput& in);
+  void CancelPick();
   void TakeMode(ModeId mode);
   std::unique_ptr<Gesture> GestureOfPress(const PointerInput& in);
   void OpenPendingMenu();
@@ -123,6 +127,7 @@ private:
   std::unique_ptr<ToolMode> m_mode;
   std::unique_ptr<Gesture> m_gesture;
   PointerInput m_lastPointer;
+  std::function<void(const PointerInput&)> m_pick;  ///< waits for the next press
   int m_wheelRest = 0;
   bool m_dragByKey = false;  ///< m_gesture ends when the key is released
 };

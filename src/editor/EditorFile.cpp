@@ -1,6 +1,7 @@
 // New, open, save, append, exit.
 #include "core/RecentFiles.h"
 #include "editor/Editor.h"
+#include "editor/MapView.h"
 #include "editor/Modes.h"
 #include "editor/SelectKinds.h"
 #include "platform/Paths.h"
@@ -57,6 +58,7 @@ void WriteProjectTo(Session& session, const std::filesystem::path& path) {
 /// Ends what is under way while the project that it belongs to is still there.
 void Editor::LeaveProject() {
   EndGesture();
+  CancelPick();
   m_mode->Leave();
 }
 
@@ -72,6 +74,7 @@ void Editor::ProjectReplaced() {
   view.ShowFlag.fill(true);
   TakeViewFrom(view, m_session.project);
   view.MapView = HasProject() ? "Summer" : "";
+  LoadMaps(ReloadMapView);
   m_session.project.Dirty = false;
   m_display.DisplayAll();
   ShowStatus();

@@ -17,6 +17,7 @@ constexpr int MinusKey = 109, PlusKey = 107;
 }  // namespace
 
 std::unique_ptr<Gesture> Editor::GestureOfPress(const PointerInput& in) {
+  if (TakePick(in)) return nullptr;
   const bool leftOrRight = in.button == MouseButton::Left || in.button == MouseButton::Right;
   if (m_session.tool.Mode == ModeId::Zoom && leftOrRight) return m_mode->Press(in);
   if (m_session.tool.ZoomKeyDown) return std::make_unique<ZoomDrag>(m_context, in);
@@ -173,6 +174,9 @@ void Editor::KeyDown(const KeyInput& in) {
     m_display.DisplayAll();
   } else if (in.code == SpaceKey && m_session.tool.Mode == ModeId::Line) {
     PressByKey(in);
+  } else if (in.code == EscapeKey && m_pick) {
+    CancelPick();
+    ShowCursor();
   } else if (in.code == EscapeKey) {
     if (HasProject()) Guard([&] { m_mode->Key(in); });
   } else if (in.ctrl && in.code != CtrlKey) {

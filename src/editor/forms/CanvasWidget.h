@@ -27,6 +27,8 @@ public:
   Surface& Overlay() override { return *m_overlaySurface; }
   void ClearBase(std::int32_t color) override;
   void ClearOverlay() override;
+  bool LoadPicture(const std::filesystem::path& file) override { return m_pictures->Load(file); }
+  void KeepPictures(std::span<const std::filesystem::path> shown) override { m_pictures->Keep(shown); }
   void Present() override { update(); }
 
 protected:
