@@ -1,5 +1,7 @@
 #include "editor/Edit.h"
 
+#include "editor/MapView.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -30,6 +32,7 @@ void Edit::KeepUndoPoint() {
   const bool dirty = std::exchange(present.Dirty, m_before->Project.Dirty);
   const bool changed = present != m_before->Project;
   present.Dirty = changed ? dirty : m_wasDirty;
+  if (!(present.Maps == m_before->Project.Maps)) LoadMapView(m_session, m_display.Surfaces());
   if (!changed || m_undo == UndoPoint::Share || !m_session.settings.BackUpON) return;
   if (m_undo == UndoPoint::Withdraw) {
     m_session.undo.Withdraw(m_session.project);

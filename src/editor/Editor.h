@@ -87,7 +87,8 @@ public:
   /// mnuVSummer ...: an exact view name.
   void SetMapView(std::string_view view);
   /// The next press on the canvas goes to `pick` and nowhere else; a form that waits for a place on the map
-  /// asks for it. An empty function takes the request back.
+  /// asks for it. An empty function takes the request back. A right press, Esc and the end of the project end
+  /// the wait: `pick` then gets a press of the right button. The view may be panned and zoomed meanwhile.
   void PickPoint(std::function<void(const PointerInput&)> pick);
   /// The walk along vertices by the arrow keys begins at this vertex, "PtInLine" or "PtInPoly"; it alone is
   /// selected then. Any press on the canvas and Esc end it. Ignores a target that is gone.
@@ -125,13 +126,14 @@ private:
   void SettleCanvas();  ///< ends the drag and the figure under way, before a command changes the project
   void ReleaseGesture(const PointerInput& in);
   void ShowRestored();
+  void LoadMaps(void (*load)(Session&, CanvasSurfaces&));
+  bool TakePick(const PointerInput& in);
+  void CancelPick();
   void TakeMode(ModeId mode);
   void ResetToolState();
   void ShowModeSetup(const ModeSetup& setup);
   void StopMeasuring();
   bool UseArmedPress(const PointerInput& in);
-  bool TakePick(const PointerInput& in);
-  void CancelPick();
   void PasteAt(LatLon at);
   void ShowMeasure();
   std::unique_ptr<Gesture> GestureOfPress(const PointerInput& in);

@@ -1,8 +1,8 @@
 // Commands on the selection and on what a context menu names.
-#include "vector/GridSnap.h"
 #include "editor/Editor.h"
 #include "editor/PopupAt.h"
 #include "editor/SelectKinds.h"
+#include "vector/GridSnap.h"
 #include "vector/LineOperations.h"
 
 namespace landsmith {

@@ -1,6 +1,7 @@
 // New, open, save, append, exit.
 #include "core/RecentFiles.h"
 #include "editor/Editor.h"
+#include "editor/MapView.h"
 #include "editor/Modes.h"
 #include "editor/SelectKinds.h"
 #include "platform/Paths.h"
@@ -77,6 +78,7 @@ void Editor::ProjectReplaced() {
   view.ShowFlag.fill(true);
   TakeViewFrom(view, m_session.project);
   view.MapView = HasProject() ? "Summer" : "";
+  LoadMaps(ReloadMapView);
   m_session.project.Dirty = false;
   m_display.DisplayAll();
   ShowStatus();

@@ -1,10 +1,12 @@
 // Undo and redo.
 #include "editor/Editor.h"
+#include "editor/MapView.h"
 
 namespace landsmith {
 
 /// The state of the project has become another one under the mode's feet.
 void Editor::ShowRestored() {
+  LoadMaps(ReloadMapView);
   m_display.DisplayAll();
   ShowStatus();
   ShowToolState();

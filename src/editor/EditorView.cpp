@@ -1,5 +1,6 @@
 // Commands that change what is seen, not what is there.
 #include "editor/Editor.h"
+#include "editor/MapView.h"
 #include "editor/Modes.h"
 #include "editor/SelectKinds.h"
 
@@ -107,6 +108,7 @@ void Editor::SettingsChanged(bool centerChanged) {
   }
   UpdateScale(m_session.view);
   PanDisplay(m_session.view, 0, 0);
+  LoadMaps(LoadMapView);
   AfterViewChange();
   m_host.RefreshUi();
 }

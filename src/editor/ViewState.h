@@ -12,6 +12,8 @@
 
 #include <array>
 #include <cstdint>
+#include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -36,6 +38,14 @@ struct PixelOffset {
   float y = 0;
 };
 
+/// What the maps show at present: the work of LoadMapView.
+struct MapPictures {
+  /// One file a map; an empty one, or none, for a map without a picture.
+  std::vector<std::filesystem::path> Files;
+  /// The altitude that is marked in the mesh view: pixels of this colour get another one.
+  std::optional<std::int32_t> ChangeColorFrom;
+};
+
 struct ViewState {
   double Zoom = 1;
   double LatDispCenter = 0, LonDispCenter = 0;
@@ -49,6 +59,7 @@ struct ViewState {
   int GridLod = 0;  ///< 0 no grid, else 5 to 19
   int FillSize = 1;
   std::string MapView;  ///< "Summer", ..., or empty
+  MapPictures Pictures;
   ClassWindow Classes;
   bool ShowAircraft = false;
   LatLon Aircraft;
