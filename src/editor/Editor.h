@@ -55,6 +55,9 @@ public:
   void OpenProjectCommand();              ///< mnuFOpen: question, dialog
   bool OpenProject(const std::filesystem::path& path);
   void OpenRecent(std::size_t slot);
+  /// Opens a copy that a crash has left of the project whose file is `projectFile` (empty: none yet). It
+  /// counts as changed and is no recent file.
+  bool OpenRecovered(const std::filesystem::path& copy, const std::string& projectFile);
   bool Save();      ///< mnuFSave
   bool SaveAs();    ///< mnuFSaveAs
   bool MayClose();  ///< the exit question
@@ -152,6 +155,7 @@ private:
   CursorShape CursorNow() const;
   std::string HintNow() const;
   void ShowToolState();
+  bool TakeProject(const std::filesystem::path& file, const std::string& projectFile);
   void LeaveProject();
   void ProjectReplaced();
   std::optional<std::filesystem::path> AskProjectPath();

@@ -126,19 +126,36 @@ void Editor::OpenProjectCommand() {
   });
 }
 
+/// `projectFile` is where the project is saved to from now on.
+bool Editor::TakeProject(const std::filesystem::path& file, const std::string& projectFile) {
+  auto project = OpenProjectFile(file, m_session.settings, m_session.dialogs);
+  if (!project) return false;
+  project->ProjectFile = projectFile;
+  LeaveProject();
+  m_session.project = std::move(*project);
+  m_session.undo.Reset();
+  ProjectReplaced();
+  return true;
+}
+
+bool Editor::OpenRecovered(const std::filesystem::path& copy, const std::string& projectFile) {
+  bool opened = false;
+  Guard([&] {
+    opened = TakeProject(copy, projectFile);
+    if (opened) m_session.project.Dirty = true;
+    m_host.RefreshUi();
+  });
+  return opened;
+}
+
 bool Editor::OpenProject(const std::filesystem::path& path) {
   bool opened = false;
   Guard([&] {
     // The list of recent files and a later save must not depend on the folder of the day.
     const std::filesystem::path file =
         path.is_absolute() ? path : std::filesystem::absolute(path).lexically_normal();
-    auto project = OpenProjectFile(file, m_session.settings, m_session.dialogs);
-    if (!project) return;
-    LeaveProject();
-    m_session.project = std::move(*project);
-    m_session.undo.Reset();
-    ProjectReplaced();
-    opened = true;
+    opened = TakeProject(file, PathText(file));
+    if (!opened) return;
     PushRecentFile(m_session.recent, PathText(file), m_session.folders.IniPath());
     m_host.RefreshUi();
   });

@@ -30,6 +30,8 @@ public:
   virtual void RefreshUi() = 0;
   virtual void SetStatus(const StatusPanels& panels) = 0;
   virtual void SetCursor(CursorShape shape) = 0;
+  /// What a click does at this moment, in a few words.
+  virtual void SetHint(std::string_view /*hint*/) {}
   virtual void ShowContextMenu(const PopupTarget& target) = 0;
   /// Opens `frmLinesP` for one line (0-based), or for all selected ones when empty.
   virtual void ShowLineProperties(std::optional<std::size_t> line) = 0;
