@@ -1,6 +1,7 @@
 // New, open, save, append, exit.
 #include "core/RecentFiles.h"
 #include "editor/Editor.h"
+#include "editor/MapView.h"
 #include "editor/Modes.h"
 #include "editor/SelectKinds.h"
 #include "platform/Paths.h"
@@ -46,9 +47,14 @@ std::optional<std::filesystem::path> ChooseToSave(Session& session) {
   return path;
 }
 
-void WriteProjectTo(Session& session, const std::filesystem::path& path) {
+/// A polygon that is being drawn is left out until it has enough vertices to be one.
+void WriteProjectTo(Session& session, const std::filesystem::path& path, bool drawing) {
   StoreView(session.view, session.project);
-  SaveProjectFile(session.project, path, session.folders.AppPath);
+  ProjectState stored = session.project;
+  if (drawing && session.tool.Mode == ModeId::Poly && !stored.Polys.empty() &&
+      stored.Polys.back().Points.size() < PathTraits<PolyRec>::LeastPoints)
+    stored.Polys.Truncate(stored.Polys.size() - 1);
+  SaveProjectFile(stored, path, session.folders.AppPath);
   session.project.Dirty = false;
 }
 
@@ -56,13 +62,14 @@ void WriteProjectTo(Session& session, const std::filesystem::path& path) {
 
 /// Ends what is under way while the project that it belongs to is still there.
 void Editor::LeaveProject() {
-  EndGesture();
-  m_mode->Leave();
+  CancelPick();
+  ResetToolState();
 }
 
 /// The view, the mode and the selection after `m_session.project` has become another one.
 void Editor::ProjectReplaced() {
   m_session.tool = ToolState{};
+  m_host.FollowPoint({});
   TakeMode(ModeId::Pointer);
   RecountSelection(m_session.project, m_session.tool.Selected);
   ViewState& view = m_session.view;
@@ -71,10 +78,11 @@ void Editor::ProjectReplaced() {
   view.ShowFlag.fill(true);
   TakeViewFrom(view, m_session.project);
   view.MapView = HasProject() ? "Summer" : "";
+  LoadMaps(ReloadMapView);
   m_session.project.Dirty = false;
   m_display.DisplayAll();
   ShowStatus();
-  ShowCursor();
+  ShowToolState();
   m_host.RefreshUi();
 }
 
@@ -164,7 +172,7 @@ bool Editor::Save() {
   EndGesture();
   if (!MaySave()) return SaveAs();
   return Guard([&] {
-    WriteProjectTo(m_session, MapPath(m_session.project.ProjectFile));
+    WriteProjectTo(m_session, MapPath(m_session.project.ProjectFile), m_mode->IsDrawing());
     m_host.RefreshUi();
   });
 }
@@ -176,7 +184,7 @@ bool Editor::SaveAs() {
   Guard([&] {
     const auto path = ChooseToSave(m_session);
     if (!path) return;
-    WriteProjectTo(m_session, *path);
+    WriteProjectTo(m_session, *path, m_mode->IsDrawing());
     m_session.project.ProjectFile = PathText(*path);
     saved = true;
     m_host.RefreshUi();
