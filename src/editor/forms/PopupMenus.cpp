@@ -72,8 +72,7 @@ void PopupMenus::Show(const PopupTarget& target) {
     m_generalTitle->setText(LiteralText(ToUpper(m_editor.State().project.Name)));
   else
     m_objectsTitle->setText(LiteralText(target.Title));
-  // A vertex has a form of its own, which this version lacks.
-  m_objectsProperties->setEnabled(target.Kind == "Line");
+  m_objectsProperties->setEnabled(target.Kind == "Line" || VertexOf(target));
   const QPoint at(static_cast<int>(std::lround(target.At.x + static_cast<float>(m_canvas.width()) / 2)),
                   static_cast<int>(std::lround(target.At.y + static_cast<float>(m_canvas.height()) / 2)));
   (general ? m_general : m_objects)->popup(m_canvas.mapToGlobal(at));

@@ -42,6 +42,8 @@ void frmStart::BindEditMenu() {
   Bind("mnuEDelete", [this] { m_editor->DeleteSelected(); });
   Bind("mnuESelectAll", [this] { m_editor->SelectAll(); });
   Bind("mnuEInvert", [this] { m_editor->InvertSelection(); });
+  Bind("mnuEFind", [this] { ShowFind(); });
+  Bind("mnuECoordinates", [this] { ShowCoordinates(); });
   Bind("mnuESnapLOD", [this] { m_editor->SnapToLod21(); });
 }
 
@@ -52,6 +54,7 @@ void frmStart::BindViewMenu() {
     Bind((std::string("mnuV") + row.key).c_str(), [this, kind = row.kind] { m_editor->ToggleShown(kind); });
   for (const int level : GridLevels)
     Bind(("mnuG" + std::to_string(level)).c_str(), [this, level] { m_editor->SetGrid(level); });
+  Bind("mnuVGotoPosition", [this] { ShowGotoPosition(); });
   Bind("mnuVZoomIn", [this] { m_editor->ZoomAt({}, ZoomStep::In); });
   Bind("mnuVZoomOut", [this] { m_editor->ZoomAt({}, ZoomStep::Out); });
 }

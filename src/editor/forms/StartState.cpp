@@ -25,6 +25,7 @@ void frmStart::RefreshUi() {
   RefreshViewMenu();
   RefreshSelectMenu();
   RefreshModes();
+  CheckPointForms();
 }
 
 void frmStart::RefreshFileMenu() {
@@ -52,7 +53,8 @@ void frmStart::RefreshEditMenu() {
   const bool open = m_editor->HasProject();
   const Selection& selected = m_session.tool.Selected;
   m_ui->mnuEDelete->setEnabled(open && selected.SelectedCount > 0);
-  m_ui->mnuEInvert->setEnabled(open);
+  for (QAction* action : {m_ui->mnuEInvert, m_ui->mnuEFind, m_ui->mnuECoordinates, m_ui->mnuVGotoPosition})
+    action->setEnabled(open);
   m_ui->mnuESnapLOD->setEnabled(open && selected.SelectionActive);
 }
 

@@ -45,6 +45,8 @@ public:
   void ShowContextMenu(const PopupTarget& target) override;
   void ShowLineProperties(std::optional<std::size_t> line) override;
   bool ShowProjectProperties() override;
+  void ShowPointForm(const PopupTarget& point) override;
+  void FollowPoint(const PopupTarget& point) override;
   int ToolbarHeight() const override;
   int StatusBarHeight() const override;
   bool StartTimer(TimerId timer, int milliseconds) override;
@@ -75,6 +77,12 @@ private:
   void ShowPreferences();
   void ShowCompilation();
   void ShowAbout();
+
+  // StartForms.cpp: forms beside the canvas
+  void ShowFind();
+  void ShowGotoPosition();
+  void ShowCoordinates();
+  void CheckPointForms();
 
   // StartState.cpp: what is enabled and checked
   QAction& Action(const QString& name);
