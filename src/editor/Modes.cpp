@@ -2,6 +2,7 @@
 
 #include "editor/Gestures.h"
 #include "editor/LineMode.h"
+#include "editor/MapMode.h"
 #include "editor/PointerMode.h"
 #include "editor/SelectKinds.h"
 
@@ -27,13 +28,15 @@ private:
 }  // namespace
 
 bool IsOffered(ModeId mode) {
-  return mode == ModeId::Pointer || mode == ModeId::Zoom || mode == ModeId::Line;
+  return mode == ModeId::Pointer || mode == ModeId::Zoom || mode == ModeId::Map || mode == ModeId::Line;
 }
 
 std::unique_ptr<ToolMode> MakeMode(ModeId mode, ModeContext& context) {
   switch (mode) {
     case ModeId::Zoom:
       return std::make_unique<ZoomMode>(context);
+    case ModeId::Map:
+      return std::make_unique<MapMode>(context);
     case ModeId::Line:
       return std::make_unique<LineMode>(context);
     default:

@@ -44,6 +44,7 @@ public:
   void SetCursor(CursorShape shape) override;
   void ShowContextMenu(const PopupTarget& target) override;
   void ShowLineProperties(std::optional<std::size_t> line) override;
+  void ShowMapProperties(std::size_t map) override;
   bool ShowProjectProperties() override;
   int ToolbarHeight() const override;
   int StatusBarHeight() const override;
