@@ -2,6 +2,7 @@
 #include "batch/Commands.h"
 #include "editor/Display.h"
 #include "editor/MapView.h"
+#include "editor/SelectKinds.h"
 #include "editor/Session.h"
 #include "forms/QtSurface.h"
 #include "platform/Paths.h"
@@ -105,7 +106,7 @@ void SetView(Session& session, const RenderArguments& arguments, const RenderOpt
   session.tool.Mode = options.Mode;
 }
 
-/// Base image and overlay as two pictures.
+/// Base image and overlay as two pictures; no tool draws on top.
 class PictureSurfaces final : public CanvasSurfaces {
 public:
   explicit PictureSurfaces(std::pair<int, int> size)
@@ -118,11 +119,13 @@ public:
 
   Surface& Base() override { return m_baseSurface; }
   Surface& Overlay() override { return m_overlaySurface; }
+  Surface& Top() override { return m_overlaySurface; }
   void ClearBase(std::int32_t color) override {
     const ColorParts parts = SplitColor(color);
     m_baseSurface.Clear(QColor(parts.R, parts.G, parts.B));
   }
   void ClearOverlay() override { m_overlaySurface.Clear(QColor(0, 0, 0, 0)); }
+  void ClearTop() override {}
   bool LoadPicture(const std::filesystem::path& file) override { return m_pictures->Load(file); }
   void KeepPictures(std::span<const std::filesystem::path> shown) override { m_pictures->Keep(shown); }
   void Present() override {}
@@ -156,6 +159,7 @@ void Render(BatchRun& run, const RenderArguments& arguments) {
   Session session(run.folders, run.dialogs, tools);
   session.settings = run.settings;
   session.project = OpenForCommand(run, arguments.Project);
+  RecountSelection(session.project, session.tool.Selected);
   session.lands = ReadClassTable(MapPathIn(run.folders.Tools(), "lands.txt"), ClassKind::Land);
   session.waters = ReadClassTable(MapPathIn(run.folders.Tools(), "waters.txt"), ClassKind::Water);
   SetView(session, arguments, options);

@@ -4,7 +4,6 @@
 #include "editor/ChooseFile.h"
 #include "editor/Edit.h"
 #include "editor/MapView.h"
-#include "editor/SelectKinds.h"
 #include "platform/Paths.h"
 
 namespace landsmith {
@@ -119,12 +118,6 @@ void AddNewMap(Session& session, Display& display, EditorHost& host, LatLon clic
   if (map.IsCalibrated) return;
   session.dialogs.Message(MessageKind::Warning, "You may need to calibrate this bitmap!");
   host.ShowMapProperties(added);
-}
-
-void RemoveMap(Session& session, Display& display, std::size_t map) {
-  Edit edit(session, display);
-  edit.Project().Maps.Erase(map);
-  RecountSelection(session.project, session.tool.Selected);
 }
 
 }  // namespace landsmith

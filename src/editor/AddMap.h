@@ -1,4 +1,4 @@
-// Putting a map onto the canvas and taking it off.
+// Putting a map onto the canvas.
 #pragma once
 
 #include "editor/Display.h"
@@ -28,8 +28,5 @@ std::optional<ChosenBitmap> ChooseBitmap(Session& session, std::string_view kind
 /// The map becomes the middle of the canvas at zoom 8. When a calibration is missing its properties are
 /// shown.
 void AddNewMap(Session& session, Display& display, EditorHost& host, LatLon clicked);
-
-/// Deletes a map (0-based); what is shown of the others follows.
-void RemoveMap(Session& session, Display& display, std::size_t map);
 
 }  // namespace landsmith

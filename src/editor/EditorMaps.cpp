@@ -10,7 +10,7 @@ namespace landsmith {
 void Editor::LoadMaps(void (*load)(Session&, CanvasSurfaces&)) {
   if (!m_session.project.Maps.empty()) m_host.SetCursor(CursorShape::Busy);
   load(m_session, m_display.Surfaces());
-  ShowCursor();
+  ShowToolState();
 }
 
 void Editor::SetMapView(std::string_view view) {
@@ -26,7 +26,7 @@ void Editor::SetMapView(std::string_view view) {
 
 void Editor::PickPoint(std::function<void(const PointerInput&)> pick) {
   m_pick = std::move(pick);
-  ShowCursor();
+  ShowToolState();
 }
 
 bool Editor::TakePick(const PointerInput& in) {

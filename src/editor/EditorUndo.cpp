@@ -9,7 +9,7 @@ void Editor::ShowRestored() {
   LoadMaps(ReloadMapView);
   m_display.DisplayAll();
   ShowStatus();
-  ShowCursor();
+  ShowToolState();
   m_host.RefreshUi();
 }
 

@@ -1,20 +1,15 @@
 // Placing maps: a click adds one there, the right button opens the context menu.
 #pragma once
 
-#include "editor/ModeContext.h"
-#include "editor/ToolMode.h"
+#include "editor/MenuMode.h"
 
 namespace landsmith {
 
-class MapMode final : public ToolMode {
+class MapMode final : public MenuMode {
 public:
-  explicit MapMode(ModeContext& context) : m_context(context) {}
+  explicit MapMode(ModeContext& context) : MenuMode(context, CursorShape::Map) {}
   std::unique_ptr<Gesture> Press(const PointerInput& in) override;
-  CursorShape Cursor() const override { return CursorShape::Map; }
-  std::string Hint() const override { return "Click: add a map here"; }
-
-private:
-  ModeContext& m_context;
+  std::string Hint() const override { return "Click: add a map here. Right click: menu"; }
 };
 
 }  // namespace landsmith

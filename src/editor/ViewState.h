@@ -27,7 +27,8 @@ inline constexpr std::size_t LayerKindCount = 11;
 namespace LayerMask {
 inline constexpr int Maps = 1, Grid = 2, Polys = 4, Lines = 8, Excludes = 16, Fills = 32, Waters = 64,
                      Objects = 128, MeshesAndPhotos = 256, Lands = 512;
-inline constexpr int All = 1023, AllButLines = 1015, AllButPolys = 1019;
+inline constexpr int All = 1023, AllButLines = 1015, AllButPolys = 1019, AllButObjects = 895,
+                     AllButExcludes = 1007;
 inline constexpr int Drag = 867, DragWithMap = 866;  ///< what stays in the base image during a drag
 }  // namespace LayerMask
 

@@ -99,18 +99,20 @@ private:
 
 class RecordingCanvas final : public CanvasSurfaces {
 public:
-  RecordingSurface base, overlay;
+  RecordingSurface base, overlay, top;
   std::vector<std::int32_t> cleared;          ///< colours of the base image, in turn
   std::vector<std::filesystem::path> loaded;  ///< pictures asked for; those that exist can be shown
   int presented = 0;
 
   Surface& Base() override { return base; }
   Surface& Overlay() override { return overlay; }
+  Surface& Top() override { return top; }
   void ClearBase(std::int32_t color) override {
     cleared.push_back(color);
     base.calls.clear();
   }
   void ClearOverlay() override { overlay.calls.clear(); }
+  void ClearTop() override { top.calls.clear(); }
   bool LoadPicture(const std::filesystem::path& file) override {
     loaded.push_back(file);
     return std::filesystem::exists(file);
