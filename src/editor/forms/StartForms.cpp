@@ -1,5 +1,6 @@
-// The forms that stand beside the canvas or belong to one kind of item.
+// The forms that the editor asks the main window for, and those that stand beside the canvas.
 #include "forms/frmFind.h"
+#include "forms/frmMapsP.h"
 #include "forms/frmPoints0P.h"
 #include "forms/frmPointsP.h"
 #include "forms/frmStart.h"
@@ -57,6 +58,14 @@ void frmStart::FollowPoint(const PopupTarget& point) {
 void frmStart::CheckPointForms() {
   for (PointForm* form : findChildren<PointForm*>(QString(), Qt::FindDirectChildrenOnly))
     form->Check();
+}
+
+void frmStart::ShowMapProperties(std::size_t map) {
+  if (map >= m_session.project.Maps.size()) return;
+  frmMapsP form(m_session, *m_editor, this);
+  form.ShowMap(map);
+  form.exec();
+  RefreshUi();
 }
 
 }  // namespace landsmith
