@@ -13,6 +13,7 @@
 #include <filesystem>
 #include <functional>
 #include <optional>
+#include <span>
 #include <utility>
 
 namespace landsmith {
@@ -27,6 +28,10 @@ public:
   virtual void ClearOverlay() = 0;  ///< transparent
   virtual Surface& Top() = 0;
   virtual void ClearTop() = 0;  ///< transparent
+  /// Reads a picture file, so that it can be painted at once. False when it cannot be shown.
+  virtual bool LoadPicture(const std::filesystem::path& file) = 0;
+  /// Of the pictures read so far these are shown; the others may give back their memory.
+  virtual void KeepPictures(std::span<const std::filesystem::path> shown) = 0;
   /// All surfaces are complete and may be shown.
   virtual void Present() = 0;
 };

@@ -1,5 +1,7 @@
 #include "editor/Edit.h"
 
+#include "editor/MapView.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -30,7 +32,12 @@ void Edit::KeepUndoPoint() {
   const bool dirty = std::exchange(present.Dirty, m_before->Project.Dirty);
   const bool changed = present != m_before->Project;
   present.Dirty = changed ? dirty : m_wasDirty;
+  if (!(present.Maps == m_before->Project.Maps)) LoadMapView(m_session, m_display.Surfaces());
   if (!changed || m_undo == UndoPoint::Share || !m_session.settings.BackUpON) return;
+  if (m_undo == UndoPoint::Withdraw) {
+    m_session.undo.Withdraw(m_session.project);
+    return;
+  }
   m_session.undo.Take(std::move(*m_before),
                       static_cast<std::size_t>(std::max(m_session.settings.UndoDepth, 1)));
 }

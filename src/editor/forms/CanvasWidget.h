@@ -30,6 +30,8 @@ public:
   void ClearBase(std::int32_t color) override;
   void ClearOverlay() override;
   void ClearTop() override;
+  bool LoadPicture(const std::filesystem::path& file) override { return m_pictures->Load(file); }
+  void KeepPictures(std::span<const std::filesystem::path> shown) override { m_pictures->Keep(shown); }
   void Present() override { update(); }
 
 protected:

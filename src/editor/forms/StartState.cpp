@@ -26,6 +26,7 @@ void frmStart::RefreshUi() {
   RefreshSelectMenu();
   RefreshModes();
   CheckPointForms();
+  m_recovery->ProjectMayBeSaved();
 }
 
 void frmStart::RefreshFileMenu() {
@@ -53,6 +54,8 @@ void frmStart::RefreshEditMenu() {
   const bool open = m_editor->HasProject();
   const Selection& selected = m_session.tool.Selected;
   m_ui->mnuEDelete->setEnabled(open && selected.SelectedCount > 0);
+  m_ui->mnuEUndo->setEnabled(m_editor->CanUndo());
+  m_ui->mnuERedo->setEnabled(m_editor->CanRedo());
   for (QAction* action : {m_ui->mnuEInvert, m_ui->mnuEFind, m_ui->mnuECoordinates, m_ui->mnuVGotoPosition})
     action->setEnabled(open);
   m_ui->mnuESnapLOD->setEnabled(open && selected.SelectionActive);
@@ -72,7 +75,13 @@ void frmStart::RefreshViewMenu() {
   m_ui->mnuGrid->setEnabled(open);
   for (const int level : GridLevels)
     Action(QStringLiteral("mnuG%1").arg(level)).setChecked(view.GridLod == level);
-  m_ui->mnuVBitmap->setEnabled(false);
+  const bool mapsHaveViews = open && !view.MapView.empty();
+  m_ui->mnuVBitmap->setEnabled(mapsHaveViews);
+  for (const ViewRow& row : ViewTable) {
+    QAction& item = Action(QLatin1String(row.action));
+    item.setEnabled(mapsHaveViews);
+    item.setChecked(view.MapView == row.view);
+  }
   m_ui->mnuVZoomIn->setEnabled(open);
   m_ui->mnuVZoomOut->setEnabled(open);
 }
@@ -98,7 +107,7 @@ void frmStart::RefreshModes() {
   const bool open = m_editor->HasProject();
   for (const ModeRow& row : ModeTable) {
     QAction& item = Action(QStringLiteral("mnuO") + QLatin1String(row.key));
-    item.setEnabled(open && row.available);
+    item.setEnabled(open);
     item.setChecked(open && m_session.tool.Mode == row.mode);
   }
 }

@@ -1,5 +1,5 @@
 #include "core/Grid.h"
-#include "core/GridSnap.h"
+#include "vector/GridSnap.h"
 
 #include <gtest/gtest.h>
 
