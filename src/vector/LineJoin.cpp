@@ -1,6 +1,6 @@
 #include "vector/LineJoin.h"
 
-#include "core/Settings.h"
+#include "vector/JoinTolerance.h"
 #include "vector/LineOperations.h"
 #include "vector/PathSelection.h"
 
@@ -12,22 +12,6 @@
 
 namespace landsmith {
 namespace {
-
-/// How near two ends must be to meet, in degrees on each axis.
-struct JoinTolerance {
-  double Lon = StepLon;
-  double Lat = StepLat;
-};
-
-JoinTolerance ToleranceOf(const AppSettings& settings, const ViewScale& scale) {
-  constexpr double pixels = 3;
-  if (!settings.DisplayJoin) return {};
-  return {pixels / scale.PixelsPerDegLon, pixels / scale.PixelsPerDegLat};
-}
-
-bool AreClose(const LinePoint& a, const LinePoint& b, const JoinTolerance& tolerance) {
-  return std::fabs(a.Lon - b.Lon) <= tolerance.Lon && std::fabs(a.Lat - b.Lat) <= tolerance.Lat;
-}
 
 double DegreesBetween(const LinePoint& a, const LinePoint& b) {
   return std::hypot(a.Lon - b.Lon, a.Lat - b.Lat);
@@ -97,7 +81,7 @@ std::string JoinLines(ProjectState& project, Selection& selection) {
 
 bool TryAutoJoin(ProjectState& project, std::size_t newLine, const AppSettings& settings,
                  const ViewScale& scale) {
-  const JoinTolerance tolerance = ToleranceOf(settings, scale);
+  const JoinTolerance tolerance = JoinToleranceOf(settings, scale);
   for (std::size_t j = 0; j < project.Lines.size(); ++j) {
     const LineRec& fresh = project.Lines[newLine];
     const LineRec& other = project.Lines[j];

@@ -1,20 +1,13 @@
 #include "vector/LineType.h"
 
+#include "vector/PackedText.h"
+
 #include <algorithm>
 
 namespace landsmith {
 namespace {
 
-constexpr std::string_view FieldEnd = "//";
 constexpr std::string_view DefaultLayer = "7";
-
-/// Takes the text up to the next "//" off the front of `rest`, and the mark with it.
-std::string_view TakeField(std::string_view& rest) {
-  const std::size_t end = rest.find(FieldEnd);
-  const std::string_view field = rest.substr(0, end);
-  rest = end == std::string_view::npos ? std::string_view{} : rest.substr(end + FieldEnd.size());
-  return field;
-}
 
 struct Encoder {
   std::string operator()(const PlainLine&) const { return {}; }
@@ -22,10 +15,8 @@ struct Encoder {
   std::string operator()(const PointsLine&) const { return "Points//"; }
   std::string operator()(const VtpLine& line) const {
     std::string packed = "VTP//";
-    packed += line.Layer.empty() ? DefaultLayer : std::string_view(line.Layer);
-    packed += FieldEnd;
-    packed += line.Texture;
-    packed += FieldEnd;
+    AddPackedField(packed, line.Layer.empty() ? DefaultLayer : std::string_view(line.Layer));
+    AddPackedField(packed, line.Texture);
     return packed;
   }
   std::string operator()(const UnknownLine& line) const { return line.Text; }
@@ -36,13 +27,13 @@ struct Encoder {
 LineType DecodeLineType(std::string_view packed) {
   if (packed.empty()) return PlainLine{};
   std::string_view rest = packed;
-  const std::string_view head = TakeField(rest);
+  const std::string_view head = TakePackedField(rest);
   if (head == "Objects") return ObjectsLine{};
   if (head == "Points") return PointsLine{};
   if (head == "VTP") {
     VtpLine line;
-    line.Layer = TakeField(rest);
-    line.Texture = TakeField(rest);
+    line.Layer = TakePackedField(rest);
+    line.Texture = TakePackedField(rest);
     return line;
   }
   return UnknownLine{std::string(packed)};
@@ -53,7 +44,7 @@ std::string EncodeLineType(const LineType& type) {
 }
 
 std::string_view TypeHead(std::string_view packed) {
-  return TakeField(packed);
+  return TakePackedField(packed);
 }
 
 bool IsNumericTexture(std::string_view texture) {

@@ -38,6 +38,12 @@ void PointsChanged(PolyRec& poly);
 inline void PointsMoved(LineRec&) {}
 void PointsMoved(PolyRec& poly);
 
+/// Exactly the same position, whatever width or altitude.
+template <class Point>
+bool SamePlace(const Point& a, const Point& b) {
+  return a.Lat == b.Lat && a.Lon == b.Lon;
+}
+
 /// `third`: the width or altitude of the vertex.
 template <class Path>
 void AppendPoint(Path& path, LatLon at, float third) {

@@ -26,15 +26,17 @@ void SetPolyPlane(PolyRec& poly, std::size_t point1, std::size_t point2, float a
 /// Lays the plane again through the two vertices that the Type of a sloped LWM polygon names, after a vertex
 /// has moved. Nothing for other polygons, nor when the two altitudes differ by less than 0.01 metres.
 void ApplyPlaneAltitudes(PolyRec& poly);
-/// Brings the altitude fields of an LWM polygon's Type up to date with its vertices; nothing for others.
+/// Brings the altitude fields of an LWM polygon's Type up to date with its vertices; nothing for others. A
+/// level polygon whose two fields agree keeps their altitude: whoever gives all vertices another one writes
+/// the fields too.
 void UpdateLWMType(PolyRec& poly);
 /// Makes the texture coordinates of a textured polygon anew from its bounding box; with `force` false only
 /// when there are not as many pairs as vertices. Nothing for others.
 void SetTexCoords(PolyRec& poly, bool force);
 
 /// Moves each vertex to its Point of the grid and drops those that meet the one before, the last one when it
-/// meets the first. The number dropped; or -3 minus the number dropped so far when fewer than 3 would be
-/// left.
+/// meets the first. The number dropped; or, with the polygon unchanged, -3 minus the number dropped so far
+/// when fewer than 3 would be left: it is then to be deleted.
 int SnapPolyToGrid(PolyRec& poly);
 
 }  // namespace landsmith
