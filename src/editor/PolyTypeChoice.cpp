@@ -84,13 +84,14 @@ PolyType DecodedType(const PolyTypeChoice& choice) {
   return PlainPoly{};
 }
 
-void ApplyLwm(PolyRec& poly, const PolyTypeChoice& choice, bool setsAltitude) {
-  const std::optional<float> altitude = ParseFloat(choice.Altitude);
+void ApplyLwm(PolyRec& poly, const PolyTypeChoice& choice) {
   const AltitudeSpan span = AltitudesOf(poly);
-  if (altitude && (setsAltitude || span.Highest == span.Lowest)) SetPolyAltitude(poly, *altitude);
+  const std::optional<float> altitude = ParseFloat(choice.Altitude);
   if (!altitude) {
     const std::string own = NumberText(span.Highest);
     poly.Type = EncodePolyType(LwmPolyType{choice.Kind, own, own});
+  } else if (span.Highest == span.Lowest) {
+    SetPolyAltitude(poly, *altitude);
   }
   UpdateLWMType(poly);
 }
@@ -144,11 +145,11 @@ std::string TypeOfChoice(const PolyTypeChoice& choice) {
   return EncodePolyType(DecodedType(choice));
 }
 
-void ApplyPolyType(PolyRec& poly, const PolyTypeChoice& choice, std::int32_t color, bool setsAltitude) {
+void ApplyPolyType(PolyRec& poly, const PolyTypeChoice& choice, std::int32_t color) {
   const PolyType before = DecodePolyType(poly.Type);
   poly.Type = TypeOfChoice(choice);
   poly.Color = color;
-  if (choice.Option == PolyOption::Lwm) ApplyLwm(poly, choice, setsAltitude);
+  if (choice.Option == PolyOption::Lwm) ApplyLwm(poly, choice);
   if (choice.Option == PolyOption::Tex) ApplyTex(poly, WithDefaults(choice.Tex), before);
 }
 
@@ -170,7 +171,12 @@ void LevelPoly(PolyRec& poly, float altitude) {
   ChangeLwm(poly, [&](LwmPolyType& lwm) { lwm.Highest = lwm.Lowest = NumberText(altitude); });
 }
 
-void SlopePoly(PolyRec& poly, std::size_t point1, std::size_t point2, float altitude1, float altitude2) {
+bool SlopePoly(PolyRec& poly, std::size_t point1, std::size_t point2, float altitude1, float altitude2) {
+  const std::size_t count = poly.Points.size();
+  if (point1 < 1 || point2 < 1 || point1 > count || point2 > count) return false;
+  const PolyPoint& from = poly.Points[point1 - 1];
+  const PolyPoint& to = poly.Points[point2 - 1];
+  if (from.Lon == to.Lon && from.Lat == to.Lat && altitude1 != altitude2) return false;
   SetPolyPlane(poly, point1 - 1, point2 - 1, altitude1, altitude2);
   ChangeLwm(poly, [&](LwmPolyType& lwm) {
     lwm.Highest = NumberText(altitude1);
@@ -178,6 +184,7 @@ void SlopePoly(PolyRec& poly, std::size_t point1, std::size_t point2, float alti
     lwm.HighestPoint = std::to_string(point1);
     lwm.LowestPoint = std::to_string(point2);
   });
+  return true;
 }
 
 std::string LayerTitle(int layer) {

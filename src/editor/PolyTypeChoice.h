@@ -43,10 +43,9 @@ PolyTypeChoice ChoiceOfType(std::string_view type);
 std::string TypeOfChoice(const PolyTypeChoice& choice);
 
 /// Gives the polygon the chosen type and colour. What its vertices decide is brought up to date: the
-/// altitudes of an LWM type, one pair of texture coordinates for each vertex. The vertices of an LWM polygon
-/// get the chosen altitude first if they are level, sloped ones with `setsAltitude` alone; none when it is no
-/// number.
-void ApplyPolyType(PolyRec& poly, const PolyTypeChoice& choice, std::int32_t color, bool setsAltitude);
+/// altitudes of an LWM type, one pair of texture coordinates for each vertex. The vertices of a level LWM
+/// polygon get the chosen altitude, unless it is no number; a sloped one keeps its slope.
+void ApplyPolyType(PolyRec& poly, const PolyTypeChoice& choice, std::int32_t color);
 
 /// Highest and lowest altitude of the vertices and the first vertex of each, 1-based.
 struct AltitudeSpan {
@@ -58,7 +57,8 @@ AltitudeSpan AltitudesOf(const PolyRec& poly);
 /// One altitude for all vertices; an LWM type takes it twice and keeps its vertex numbers.
 void LevelPoly(PolyRec& poly, float altitude);
 /// A slope from vertex `point1` to vertex `point2`, 1-based; an LWM type takes the altitudes and the numbers.
-void SlopePoly(PolyRec& poly, std::size_t point1, std::size_t point2, float altitude1, float altitude2);
+/// False, and nothing has changed, when a vertex is missing or both lie at one place and are to differ.
+bool SlopePoly(PolyRec& poly, std::size_t point1, std::size_t point2, float altitude1, float altitude2);
 
 /// "Layer 007".
 std::string LayerTitle(int layer);
