@@ -1,6 +1,8 @@
 // render: the canvas of the desktop program as a picture, without a window.
 #include "batch/Commands.h"
 #include "editor/Display.h"
+#include "editor/MapView.h"
+#include "editor/SelectKinds.h"
 #include "editor/Session.h"
 #include "forms/QtSurface.h"
 #include "platform/Paths.h"
@@ -24,9 +26,6 @@
 namespace landsmith {
 
 namespace {
-
-constexpr std::array<std::string_view, 9> MapViews{"Summer", "Winter",   "HardWinter", "Spring", "Fall",
-                                                   "Alpha",  "NightMap", "Land",       "Mesh"};
 
 constexpr std::array<std::pair<std::string_view, ModeId>, 12> Modes{{
     {"Pointer", ModeId::Pointer},
@@ -83,8 +82,7 @@ RenderOptions CheckOptions(const RenderArguments& arguments) {
                         ModeOf(arguments.Mode)};
   if (options.GridLod != 0 && (options.GridLod < 5 || options.GridLod > 19))
     throw UsageError("--grid: the level is 0 for none, or 5 to 19");
-  if (std::find(MapViews.begin(), MapViews.end(), arguments.View) == MapViews.end())
-    throw UsageError("--view: there is no view " + arguments.View);
+  if (FindMapView(arguments.View) == nullptr) throw UsageError("--view: there is no view " + arguments.View);
   if (!arguments.Center.empty()) PositionArgument("--center", arguments.Center);
   if (!arguments.Zoom.empty() && !(NumberArgument("--zoom", arguments.Zoom) > 0))
     throw UsageError("--zoom: the zoom is above 0");
@@ -108,24 +106,28 @@ void SetView(Session& session, const RenderArguments& arguments, const RenderOpt
   session.tool.Mode = options.Mode;
 }
 
-/// Base image and overlay as two pictures.
+/// Base image and overlay as two pictures; no tool draws on top.
 class PictureSurfaces final : public CanvasSurfaces {
 public:
   explicit PictureSurfaces(std::pair<int, int> size)
       : m_base(size.first, size.second, QImage::Format_RGB32),
         m_overlay(size.first, size.second, QImage::Format_ARGB32_Premultiplied),
-        m_baseSurface(m_base),
-        m_overlaySurface(m_overlay) {
+        m_baseSurface(m_base, m_pictures),
+        m_overlaySurface(m_overlay, m_pictures) {
     ClearOverlay();
   }
 
   Surface& Base() override { return m_baseSurface; }
   Surface& Overlay() override { return m_overlaySurface; }
+  Surface& Top() override { return m_overlaySurface; }
   void ClearBase(std::int32_t color) override {
     const ColorParts parts = SplitColor(color);
     m_baseSurface.Clear(QColor(parts.R, parts.G, parts.B));
   }
   void ClearOverlay() override { m_overlaySurface.Clear(QColor(0, 0, 0, 0)); }
+  void ClearTop() override {}
+  bool LoadPicture(const std::filesystem::path& file) override { return m_pictures->Load(file); }
+  void KeepPictures(std::span<const std::filesystem::path> shown) override { m_pictures->Keep(shown); }
   void Present() override {}
 
   /// Both, one on the other.
@@ -136,6 +138,7 @@ public:
   }
 
 private:
+  std::shared_ptr<PictureCache> m_pictures = std::make_shared<PictureCache>();
   QImage m_base;
   QImage m_overlay;
   QtSurface m_baseSurface;
@@ -156,12 +159,14 @@ void Render(BatchRun& run, const RenderArguments& arguments) {
   Session session(run.folders, run.dialogs, tools);
   session.settings = run.settings;
   session.project = OpenForCommand(run, arguments.Project);
+  RecountSelection(session.project, session.tool.Selected);
   session.lands = ReadClassTable(MapPathIn(run.folders.Tools(), "lands.txt"), ClassKind::Land);
   session.waters = ReadClassTable(MapPathIn(run.folders.Tools(), "waters.txt"), ClassKind::Water);
   SetView(session, arguments, options);
 
   PictureSurfaces surfaces(options.Size);
   Display display(session, surfaces);
+  LoadMapView(session, surfaces);
   display.DisplayAll();
   WritePng(surfaces.Picture(), MapPath(arguments.Out));
 }

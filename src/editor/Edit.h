@@ -12,9 +12,9 @@
 
 namespace landsmith {
 
-/// Whether an edit can be undone by itself. The clicks that lengthen a line under way belong to its first
-/// one.
-enum class UndoPoint { Take, Share };
+/// Whether an edit can be undone by itself (Take). The clicks that lengthen a line under way belong to its
+/// first one (Share); a figure given up takes the undo point of its first click with it (Withdraw).
+enum class UndoPoint { Take, Share, Withdraw };
 
 class Edit {
 public:

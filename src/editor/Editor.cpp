@@ -2,7 +2,6 @@
 
 #include "core/Text.h"
 #include "editor/Modes.h"
-#include "editor/SelectKinds.h"
 
 #include <utility>
 
@@ -12,10 +11,11 @@ Editor::Editor(Session& session, CanvasSurfaces& surfaces, EditorHost& host)
     : m_session(session),
       m_display(session, surfaces),
       m_host(host),
-      m_context{session, m_display, host, std::nullopt},
+      m_context{session, m_display, host, std::nullopt, {}, false},
       m_mode(MakeMode(session.tool.Mode, m_context)) {
   m_display.SetExtra([this](Surface& surface) {
     m_mode->Paint(surface);
+    m_context.measure.Paint(surface, m_session.view);
     if (m_gesture) m_gesture->Paint(surface);
   });
 }
@@ -43,30 +43,42 @@ void Editor::EndGesture() {
   m_host.StopTimer(TimerId::DragRedraw);
 }
 
-void Editor::TakeMode(ModeId mode) {
-  m_session.tool.Mode = mode;
-  m_mode = MakeMode(mode, m_context);
+void Editor::SettleCanvas() {
+  EndGesture();
+  m_mode->Leave();
 }
 
-void Editor::ChooseMode(ModeId mode) {
-  if (!IsOffered(mode) || !HasProject()) return;
-  Guard([&] {
-    EndGesture();
-    m_mode->Leave();
-    m_session.tool.InsertPoints = false;
-    TakeMode(mode);
-    if (mode == ModeId::Line) {
-      m_session.view.ShowFlag[static_cast<std::size_t>(LayerKind::Lines)] = true;
-      ClearSelection(m_session.project, m_session.tool);
-    }
-    m_display.DisplayAll();
-    ShowCursor();
-    m_host.RefreshUi();
-  });
+CursorShape Editor::CursorNow() const {
+  const ToolState& tool = m_session.tool;
+  if (tool.MeasureOn) return CursorShape::Measure;
+  if (m_gesture) return m_gesture->Cursor();
+  if (m_pick) return CursorShape::Cross;
+  if (tool.PasteArmed) return CursorShape::Paste;
+  return m_mode->Cursor();
 }
 
-void Editor::ShowCursor() {
-  m_host.SetCursor(m_gesture ? m_gesture->Cursor() : m_mode->Cursor());
+std::string Editor::HintNow() const {
+  const ToolState& tool = m_session.tool;
+  if (!HasProject()) return {};
+  if (m_gesture) return m_gesture->Hint();
+  if (tool.ZoomKeyDown) return "Drag up: zoom in. Drag down: zoom out";
+  if (tool.PanKeyDown) return "Drag: move the view";
+  if (tool.NextClickIsRight) return "Click: as with the right button";
+  if (tool.PasteArmed) return "Click: paste a copy here. Right click: no more copies";
+  if (m_pick) return "Click: take this place";
+  if (tool.MeasureOn)
+    return m_context.measure.Started() ? "Click: end the measure. Right click: stop measuring"
+                                       : "Click: measure from here. Right click: stop measuring";
+  return m_mode->Hint();
+}
+
+/// Cursor and hint, after anything that may have changed what the mouse does.
+void Editor::ShowToolState() {
+  m_host.SetCursor(CursorNow());
+  std::string hint = HintNow();
+  if (hint == m_hint) return;
+  m_hint = std::move(hint);
+  m_host.SetHint(m_hint);
 }
 
 void Editor::ShowStatus() {

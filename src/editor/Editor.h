@@ -5,10 +5,13 @@
 #include "editor/Display.h"
 #include "editor/Edit.h"
 #include "editor/EditorHost.h"
+#include "editor/Find.h"
+#include "editor/HoverLabel.h"
 #include "editor/ModeContext.h"
 #include "editor/Session.h"
 #include "editor/StatusText.h"
 #include "editor/ToolMode.h"
+#include "editor/Walker.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -20,6 +23,11 @@
 #include <vector>
 
 namespace landsmith {
+
+struct ModeSetup;
+
+/// Whether the canvas goes to the vertex that a walk begins at.
+enum class WalkView { Centre, Keep };
 
 class Editor {
 public:
@@ -47,6 +55,9 @@ public:
   void OpenProjectCommand();              ///< mnuFOpen: question, dialog
   bool OpenProject(const std::filesystem::path& path);
   void OpenRecent(std::size_t slot);
+  /// Opens a copy that a crash has left of the project whose file is `projectFile` (empty: none yet). It
+  /// counts as changed and is no recent file.
+  bool OpenRecovered(const std::filesystem::path& copy, const std::string& projectFile);
   bool Save();      ///< mnuFSave
   bool SaveAs();    ///< mnuFSaveAs
   bool MayClose();  ///< the exit question
@@ -79,10 +90,17 @@ public:
   /// mnuVSummer ...: an exact view name.
   void SetMapView(std::string_view view);
   /// The next press on the canvas goes to `pick` and nowhere else; a form that waits for a place on the map
-  /// asks for it. An empty function takes the request back.
+  /// asks for it. An empty function takes the request back. A right press, Esc and the end of the project end
+  /// the wait: `pick` then gets a press of the right button. The view may be panned and zoomed meanwhile.
   void PickPoint(std::function<void(const PointerInput&)> pick);
-  /// The walk along vertices by the arrow keys begins at this vertex, "PtInLine" or "PtInPoly".
-  void StartWalk(const PopupTarget& point);
+  /// The walk along vertices by the arrow keys begins at this vertex, "PtInLine" or "PtInPoly"; it alone is
+  /// selected then. Any press on the canvas and Esc end it. Ignores a target that is gone.
+  void StartWalk(const PopupTarget& point, WalkView view = WalkView::Centre);
+  /// One step of a walk from this vertex, for the buttons of a form.
+  void Walk(const PopupTarget& from, WalkStep step);
+  /// Selects what is found alone, shows its kind and goes there with a beep, or says that nothing was found.
+  /// `lastHit` as in FindItems.
+  void Find(const FindRequest& request, FindScope scope, std::size_t& lastHit);
   /// The commands of a context menu; `target` as ShowContextMenu gave it. Both ignore a target that is gone.
   void DeleteTarget(const PopupTarget& target);
   void ShowTargetProperties(const PopupTarget& target);
@@ -94,21 +112,50 @@ public:
   /// Name upper-cased, two blanks, "Landsmith"; or "Landsmith" alone.
   std::string Caption() const;
   bool MaySave() const;  ///< after a load or a Save As
+  // What the menus offer at this moment.
+  bool MaySelectKind(LayerKind kind) const;  ///< mnuSLines ...: shown, and the kind of a mode of one kind
+  bool MaySelectAll() const;                 ///< mnuSAll, mnuESelectAll: in the modes of all kinds
+  bool MayCut() const;                       ///< in Line, Poly and Object mode with a whole item selected
+  bool MayCopy() const { return MayCut(); }
+  bool MayPaste() const;   ///< something of the mode's kind has been cut or copied
+  bool MayDelete() const;  ///< mnuEDelete
+  bool MayMeasure() const;
   bool GestureAlive() const { return m_gesture != nullptr; }
   bool CanUndo() const { return HasProject() && m_session.undo.CanUndo() && !GestureAlive(); }
   bool CanRedo() const { return HasProject() && m_session.undo.CanRedo() && !GestureAlive(); }
 
 private:
   void EndGesture();
+  void SettleCanvas();  ///< ends the drag and the figure under way, before a command changes the project
   void ReleaseGesture(const PointerInput& in);
   void ShowRestored();
+  void LoadMaps(void (*load)(Session&, CanvasSurfaces&));
+  bool TakePick(const PointerInput& in);
+  void CancelPick();
   void TakeMode(ModeId mode);
+  void ResetToolState();
+  void ShowModeSetup(const ModeSetup& setup);
+  void StopMeasuring();
+  bool UseArmedPress(const PointerInput& in);
+  void PasteAt(LatLon at);
+  void ShowMeasure();
   std::unique_ptr<Gesture> GestureOfPress(const PointerInput& in);
+  std::unique_ptr<Gesture> GestureOfTool(const PointerInput& in);
   void OpenPendingMenu();
+  void Hover(const PointerInput& in);
   bool KeyState(const KeyInput& in, bool down);
+  bool KeyCommand(const KeyInput& in);
+  void EndByEscape(const KeyInput& in);
   void PressByKey(const KeyInput& in);
+  bool WalkKey(const KeyInput& in);  ///< true: used
+  void WalkTo(const VertexRef& vertex, WalkView view);
+  void StepWalk(WalkStep step);
+  void DeleteWalked();
   void ShowStatus();
-  void ShowCursor();
+  CursorShape CursorNow() const;
+  std::string HintNow() const;
+  void ShowToolState();
+  bool TakeProject(const std::filesystem::path& file, const std::string& projectFile);
   void LeaveProject();
   void ProjectReplaced();
   std::optional<std::filesystem::path> AskProjectPath();
@@ -123,6 +170,8 @@ private:
   std::unique_ptr<ToolMode> m_mode;
   std::unique_ptr<Gesture> m_gesture;
   PointerInput m_lastPointer;
+  std::function<void(const PointerInput&)> m_pick;  ///< waits for the next press
+  std::string m_hint;
   int m_wheelRest = 0;
   bool m_dragByKey = false;  ///< m_gesture ends when the key is released
 };

@@ -1,14 +1,14 @@
 // Commands on the selection and on what a context menu names.
-#include "core/GridSnap.h"
 #include "editor/Editor.h"
 #include "editor/PopupAt.h"
 #include "editor/SelectKinds.h"
+#include "vector/GridSnap.h"
 #include "vector/LineOperations.h"
 
 namespace landsmith {
 
 void Editor::SelectAll() {
-  if (!HasProject()) return;
+  if (!MaySelectAll()) return;
   EndGesture();
   ToolState& tool = m_session.tool;
   tool.SelectAllOn = !tool.SelectAllOn;
@@ -26,7 +26,7 @@ void Editor::InvertSelection() {
 }
 
 void Editor::SelectKind(LayerKind kind, bool state) {
-  if (!HasProject()) return;
+  if (!MaySelectKind(kind)) return;
   EndGesture();
   SelectAllOfKind(m_session.project, m_session.view, kind, state, m_session.tool.Selected);
   m_display.DisplayAll();
@@ -36,7 +36,7 @@ void Editor::SelectKind(LayerKind kind, bool state) {
 void Editor::DeleteSelected() {
   Selection& selection = m_session.tool.Selected;
   if (!HasProject() || selection.SelectedCount < 1) return;
-  EndGesture();
+  SettleCanvas();
   const std::string question = "Delete " + std::to_string(selection.SelectedCount) + " item(s) ?";
   if (m_session.settings.AskDelete && !m_session.dialogs.Ask(QuestionKind::YesNo, question)) return;
   Guard([&] {
@@ -49,7 +49,7 @@ void Editor::DeleteSelected() {
 
 void Editor::SnapToLod21() {
   if (!HasProject()) return;
-  EndGesture();
+  SettleCanvas();
   if (!m_session.dialogs.Ask(QuestionKind::YesNo,
                              "Align Points in Selected Lines and Polys\nto a LOD21 grid ?"))
     return;
@@ -70,22 +70,25 @@ void Editor::SnapToLod21() {
 void Editor::DeleteTarget(const PopupTarget& target) {
   if (!TargetExists(m_session.project, target)) return;
   if (!m_session.dialogs.Ask(QuestionKind::YesNo, DeleteQuestion(target))) return;
+  SettleCanvas();
   Guard([&] {
     Edit edit(m_session, m_display);
-    if (target.Kind == "PtInLine")
-      DeletePathPoint(edit.Project().Lines, target.Item, target.Point);
-    else
-      edit.Project().Lines.Erase(target.Item);
+    DeletePopupTarget(edit.Project(), target);
     RecountSelection(m_session.project, m_session.tool.Selected);
   });
   m_host.RefreshUi();
 }
 
 void Editor::ShowTargetProperties(const PopupTarget& target) {
-  if (target.Kind.empty())
+  if (target.Kind.empty()) {
     m_host.ShowProjectProperties();
-  else if (TargetExists(m_session.project, target))
-    m_host.ShowLineProperties(target.Item);
+    return;
+  }
+  if (!TargetExists(m_session.project, target)) return;
+  if (target.Kind == "PtInLine" || target.Kind == "PtInPoly") m_host.ShowPointForm(target);
+  if (target.Kind == "Line") m_host.ShowLineProperties(target.Item);
+  if (target.Kind == "Poly") m_host.ShowPolyProperties(target.Item);
+  if (target.Kind == "Map") m_host.ShowMapProperties(target.Item);
 }
 
 }  // namespace landsmith

@@ -1,6 +1,7 @@
 // New, open, save, append, exit.
 #include "core/RecentFiles.h"
 #include "editor/Editor.h"
+#include "editor/MapView.h"
 #include "editor/Modes.h"
 #include "editor/SelectKinds.h"
 #include "platform/Paths.h"
@@ -46,9 +47,14 @@ std::optional<std::filesystem::path> ChooseToSave(Session& session) {
   return path;
 }
 
-void WriteProjectTo(Session& session, const std::filesystem::path& path) {
+/// A polygon that is being drawn is left out until it has enough vertices to be one.
+void WriteProjectTo(Session& session, const std::filesystem::path& path, bool drawing) {
   StoreView(session.view, session.project);
-  SaveProjectFile(session.project, path, session.folders.AppPath);
+  ProjectState stored = session.project;
+  if (drawing && session.tool.Mode == ModeId::Poly && !stored.Polys.empty() &&
+      stored.Polys.back().Points.size() < PathTraits<PolyRec>::LeastPoints)
+    stored.Polys.Truncate(stored.Polys.size() - 1);
+  SaveProjectFile(stored, path, session.folders.AppPath);
   session.project.Dirty = false;
 }
 
@@ -56,14 +62,14 @@ void WriteProjectTo(Session& session, const std::filesystem::path& path) {
 
 /// Ends what is under way while the project that it belongs to is still there.
 void Editor::LeaveProject() {
-  EndGesture();
-  m_mode->Leave();
+  CancelPick();
+  ResetToolState();
 }
 
 /// The view, the mode and the selection after `m_session.project` has become another one.
 void Editor::ProjectReplaced() {
-  m_session.undo.Reset();
   m_session.tool = ToolState{};
+  m_host.FollowPoint({});
   TakeMode(ModeId::Pointer);
   RecountSelection(m_session.project, m_session.tool.Selected);
   ViewState& view = m_session.view;
@@ -72,10 +78,11 @@ void Editor::ProjectReplaced() {
   view.ShowFlag.fill(true);
   TakeViewFrom(view, m_session.project);
   view.MapView = HasProject() ? "Summer" : "";
+  LoadMaps(ReloadMapView);
   m_session.project.Dirty = false;
   m_display.DisplayAll();
   ShowStatus();
-  ShowCursor();
+  ShowToolState();
   m_host.RefreshUi();
 }
 
@@ -96,10 +103,12 @@ void Editor::NewProject(bool atStart) {
     LeaveProject();
     m_session.settings = settings;
     m_session.project = EmptyProject(m_session.settings);
+    m_session.undo.Reset();
     ProjectReplaced();
     // The canvas stays dead until the user has confirmed the new project.
     if (atStart || !m_host.ShowProjectProperties()) return;
     m_session.project.ProjectOpen = true;
+    m_session.undo.Reset();
     StoreView(m_session.view, m_session.project);  // the dialog may have moved the centre
     ProjectReplaced();
     m_session.view.MapView.clear();
@@ -117,18 +126,36 @@ void Editor::OpenProjectCommand() {
   });
 }
 
+/// `projectFile` is where the project is saved to from now on.
+bool Editor::TakeProject(const std::filesystem::path& file, const std::string& projectFile) {
+  auto project = OpenProjectFile(file, m_session.settings, m_session.dialogs);
+  if (!project) return false;
+  project->ProjectFile = projectFile;
+  LeaveProject();
+  m_session.project = std::move(*project);
+  m_session.undo.Reset();
+  ProjectReplaced();
+  return true;
+}
+
+bool Editor::OpenRecovered(const std::filesystem::path& copy, const std::string& projectFile) {
+  bool opened = false;
+  Guard([&] {
+    opened = TakeProject(copy, projectFile);
+    if (opened) m_session.project.Dirty = true;
+    m_host.RefreshUi();
+  });
+  return opened;
+}
+
 bool Editor::OpenProject(const std::filesystem::path& path) {
   bool opened = false;
   Guard([&] {
     // The list of recent files and a later save must not depend on the folder of the day.
     const std::filesystem::path file =
         path.is_absolute() ? path : std::filesystem::absolute(path).lexically_normal();
-    auto project = OpenProjectFile(file, m_session.settings, m_session.dialogs);
-    if (!project) return;
-    LeaveProject();
-    m_session.project = std::move(*project);
-    ProjectReplaced();
-    opened = true;
+    opened = TakeProject(file, PathText(file));
+    if (!opened) return;
     PushRecentFile(m_session.recent, PathText(file), m_session.folders.IniPath());
     m_host.RefreshUi();
   });
@@ -145,7 +172,7 @@ bool Editor::Save() {
   EndGesture();
   if (!MaySave()) return SaveAs();
   return Guard([&] {
-    WriteProjectTo(m_session, MapPath(m_session.project.ProjectFile));
+    WriteProjectTo(m_session, MapPath(m_session.project.ProjectFile), m_mode->IsDrawing());
     m_host.RefreshUi();
   });
 }
@@ -157,7 +184,7 @@ bool Editor::SaveAs() {
   Guard([&] {
     const auto path = ChooseToSave(m_session);
     if (!path) return;
-    WriteProjectTo(m_session, *path);
+    WriteProjectTo(m_session, *path, m_mode->IsDrawing());
     m_session.project.ProjectFile = PathText(*path);
     saved = true;
     m_host.RefreshUi();
@@ -175,7 +202,10 @@ void Editor::Append(std::string_view kind) {
     if (!path) return;
     LeaveProject();
     StoreView(m_session.view, m_session.project);
-    importer->Append(*path, m_session.project, m_session.settings);
+    {
+      Edit edit(m_session, m_display, -1);
+      importer->Append(*path, edit.Project(), m_session.settings);
+    }
     ProjectReplaced();
   });
 }

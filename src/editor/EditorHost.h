@@ -13,9 +13,12 @@ namespace landsmith {
 
 /// What a context menu is about; empty for the general menu.
 struct PopupTarget {
-  std::string Kind;                 ///< "Line", "PtInLine", or empty
-  std::string Title;                ///< "Coast road  LINE # 3"
-  std::size_t Item = 0, Point = 0;  ///< 0-based
+  /// "PtInLine", "PtInPoly", "Line", "Poly", "Object", "Exclude", "Photo", "Land", "Water", "Fill", "Mesh",
+  /// "Map", or empty.
+  std::string Kind;
+  std::string Title;  ///< "Coast road  LINE # 3"
+  /// 0-based; of a class cell the Item is row * 1281 + column.
+  std::size_t Item = 0, Point = 0;
   PixelOffset At;
 };
 
@@ -27,6 +30,8 @@ public:
   virtual void RefreshUi() = 0;
   virtual void SetStatus(const StatusPanels& panels) = 0;
   virtual void SetCursor(CursorShape shape) = 0;
+  /// What a click does at this moment, in a few words.
+  virtual void SetHint(std::string_view /*hint*/) {}
   virtual void ShowContextMenu(const PopupTarget& target) = 0;
   /// Opens `frmLinesP` for one line (0-based), or for all selected ones when empty.
   virtual void ShowLineProperties(std::optional<std::size_t> line) = 0;
@@ -36,7 +41,8 @@ public:
   virtual void ShowMapProperties(std::size_t /*map*/) {}
   /// Opens `frmPoints0P` for a vertex, "PtInLine" or "PtInPoly"; the canvas stays alive beside it.
   virtual void ShowPointForm(const PopupTarget& /*point*/) {}
-  /// The walk along vertices has come to this one: a point form that is open shows it.
+  /// The walk along vertices has come to this one: a point form that is open shows it. Without a kind: the
+  /// project has been replaced and the point is gone.
   virtual void FollowPoint(const PopupTarget& /*point*/) {}
   /// The mode's form (`frmLandsP`, ...) beside the canvas, where the mode has one, or none any more.
   virtual void ShowModeForm(std::optional<ModeId> /*mode*/) {}
@@ -50,6 +56,8 @@ public:
   virtual void StopTimer(TimerId) {}
   /// The label beside the mouse, its top left corner at `at`; an empty text hides it.
   virtual void ShowHoverLabel(std::string_view /*text*/, PixelPoint /*at*/) {}
+  /// What a click or drag does at this moment, in a few words for the status bar; empty for nothing.
+  virtual void SetHint(std::string_view /*text*/) {}
 };
 
 }  // namespace landsmith

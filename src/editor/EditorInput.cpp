@@ -1,6 +1,7 @@
 // The canvas's events.
 #include "editor/Editor.h"
 #include "editor/Gestures.h"
+#include "editor/Modes.h"
 #include "editor/PopupAt.h"
 
 #include <cstdlib>
@@ -22,16 +23,47 @@ std::unique_ptr<Gesture> Editor::GestureOfPress(const PointerInput& in) {
   if (m_session.tool.ZoomKeyDown) return std::make_unique<ZoomDrag>(m_context, in);
   if (in.button == MouseButton::Middle || m_session.tool.PanKeyDown)
     return std::make_unique<PanDrag>(m_context, in);
+  return GestureOfTool(in);
+}
+
+/// A press that leaves the view alone.
+std::unique_ptr<Gesture> Editor::GestureOfTool(const PointerInput& in) {
+  m_session.tool.Walk.reset();
+  if (UseArmedPress(in)) return nullptr;
+  const ToolState& tool = m_session.tool;
+  if (DrawsItems(tool.Mode) && tool.MeasureOn) {
+    m_context.measure.Click(ToLatLon(m_session.view, in.at));
+    return nullptr;
+  }
+  if (DrawsItems(tool.Mode) && in.ctrl) return StartRubberBox(m_context, in, 0);
   return m_mode->Press(in);
+}
+
+/// A press that something else than the mode waits for.
+bool Editor::UseArmedPress(const PointerInput& in) {
+  ToolState& tool = m_session.tool;
+  const bool right = in.button == MouseButton::Right;
+  if (tool.PasteArmed) {
+    if (right)
+      tool.PasteArmed = false;
+    else
+      PasteAt(ToLatLon(m_session.view, in.at));
+    return true;
+  }
+  if (TakePick(in)) return true;
+  if (!tool.MeasureOn || !right) return false;
+  StopMeasuring();
+  m_display.RedrawTop();
+  return true;
 }
 
 void Editor::Press(const PointerInput& in) {
   m_host.StopTimer(TimerId::Rubber);
-  m_host.ShowHoverLabel({}, in.raw);
+  HideHoverLabel(m_context);
   if (!HasProject() || m_session.view.BusyPainting) return;
   if (m_gesture) {  // a second button during a drag ends it
     EndGesture();
-    ShowCursor();
+    ShowToolState();
     return;
   }
   PointerInput press = in;
@@ -45,32 +77,46 @@ void Editor::Press(const PointerInput& in) {
     ShowStatus();
     m_host.RefreshUi();
   });
-  ShowCursor();
+  ShowToolState();
   OpenPendingMenu();
 }
 
 void Editor::OpenPendingMenu() {
   const auto at = std::exchange(m_context.menuAt, std::nullopt);
   if (!at) return;
-  if (m_session.tool.Mode == ModeId::Line && m_session.tool.Selected.SelectedCount >= 2) {
-    m_host.ShowLineProperties(std::nullopt);
-    return;
-  }
-  m_host.ShowContextMenu(
-      PopupTargetAt(m_session.project, m_session.view, m_session.tool.Mode, *at, m_display.Index()));
+  const ModeId mode = m_session.tool.Mode;
+  const bool several = m_session.tool.Selected.SelectedCount >= 2;
+  if (several && mode == ModeId::Line) return m_host.ShowLineProperties(std::nullopt);
+  if (several && mode == ModeId::Poly) return m_host.ShowPolyProperties(std::nullopt);
+  m_host.ShowContextMenu(PopupTargetAt(m_session.project, m_session.view, mode, *at, m_display.Index()));
 }
 
 void Editor::Move(const PointerInput& in) {
   if (!HasProject() || m_session.view.BusyPainting) return;
   m_lastPointer = in;
   m_session.view.Mouse = in.at;
+  const bool viewKey = m_session.tool.PanKeyDown || m_session.tool.ZoomKeyDown;
   Guard([&] {
-    if (m_gesture)
-      m_gesture->Update(in);
-    else if (!m_session.tool.PanKeyDown && !m_session.tool.ZoomKeyDown)
-      m_mode->Hover(in);
+    if (m_gesture) {
+      if (!viewKey || m_gesture->MovesView()) m_gesture->Update(in);
+    } else if (!viewKey) {
+      Hover(in);
+    }
     ShowStatus();
   });
+}
+
+void Editor::Hover(const PointerInput& in) {
+  constexpr int measureMilliseconds = 20;
+  if (!m_context.measure.Started()) return m_mode->Hover(in);
+  if (!m_host.StartTimer(TimerId::Rubber, measureMilliseconds)) ShowMeasure();
+}
+
+void Editor::ShowMeasure() {
+  constexpr std::int32_t labelRight = 35, labelAbove = 35;
+  m_display.RedrawTop();
+  const Measurement measured = m_context.measure.ToMouse(m_session.view);
+  SetHoverLabel(m_context, MeasureLabel(measured, m_session.settings), labelRight, labelAbove);
 }
 
 void Editor::ReleaseGesture(const PointerInput& in) {
@@ -86,7 +132,7 @@ void Editor::Release(const PointerInput& in) {
   if (in.button == MouseButton::Right) m_session.tool.InsertPoints = false;
   if (!m_gesture) return;
   ReleaseGesture(in);
-  ShowCursor();
+  ShowToolState();
 }
 
 void Editor::Wheel(int delta, const PointerInput& in) {
@@ -105,6 +151,8 @@ void Editor::TimerTick(TimerId timer) {
   Guard([&] {
     if (m_gesture)
       m_gesture->Tick(timer);
+    else if (timer == TimerId::Rubber && m_context.measure.Started())
+      ShowMeasure();
     else
       m_mode->Tick(timer);
   });
@@ -115,7 +163,7 @@ void Editor::FocusLost() {
   tool.PanKeyDown = tool.ZoomKeyDown = tool.CtrlKeyDown = false;
   tool.InsertPoints = tool.DeletePoints = tool.BreakLine = tool.WidthDown = tool.WidthUp = false;
   EndGesture();
-  ShowCursor();
+  ShowToolState();
 }
 
 /// Keys that count while they are held. True when the key is one of them.
@@ -164,32 +212,48 @@ void Editor::PressByKey(const KeyInput& in) {
   m_dragByKey = m_gesture != nullptr;
 }
 
-void Editor::KeyDown(const KeyInput& in) {
-  m_session.tool.InsertPoints = false;
+void Editor::EndByEscape(const KeyInput& in) {
+  CancelPick();
+  if (m_session.tool.MeasureOn) ToggleMeasure();
+  Guard([&] { m_mode->Key(in); });
+  m_host.RefreshUi();
+}
+
+/// Keys that do something at once. True when the key is one of them.
+bool Editor::KeyCommand(const KeyInput& in) {
   if (in.code == DeleteKey) {
     if (m_session.tool.Selected.SelectedCount >= 1) DeleteSelected();
   } else if (in.code == 'P' && in.alt) {
     m_session.settings.PolyFill = !m_session.settings.PolyFill;
     m_display.DisplayAll();
-  } else if (in.code == SpaceKey && m_session.tool.Mode == ModeId::Line) {
-    PressByKey(in);
+  } else if (in.code == SpaceKey) {
+    if (m_session.tool.Mode == ModeId::Line) PressByKey(in);
   } else if (in.code == EscapeKey) {
-    if (HasProject()) Guard([&] { m_mode->Key(in); });
-  } else if (in.ctrl && in.code != CtrlKey) {
-    return;  // a shortcut of the menus; its release may never come
+    EndByEscape(in);
+  } else if (in.code == 'M' && !in.ctrl) {
+    ToggleMeasure();
   } else {
-    KeyState(in, true);
+    return false;
   }
+  return true;
+}
+
+void Editor::KeyDown(const KeyInput& in) {
+  m_session.tool.InsertPoints = false;
+  if (!HasProject()) return;
+  if (WalkKey(in)) return ShowToolState();
+  // With Ctrl a letter is a shortcut of the menus, and its release may never come.
+  if (!KeyCommand(in) && (!in.ctrl || in.code == CtrlKey)) KeyState(in, true);
+  ShowToolState();
 }
 
 void Editor::KeyUp(const KeyInput& in) {
-  if (KeyState(in, false)) return;
-  if (in.code == SpaceKey && m_dragByKey) {
-    ReleaseGesture(m_lastPointer);
-    ShowCursor();
+  if (!KeyState(in, false)) {
+    if (in.code == SpaceKey && m_dragByKey) ReleaseGesture(m_lastPointer);
+    if (in.code == InsertKey) m_session.tool.InsertPoints = true;
+    if (in.code == 'R') m_session.tool.NextClickIsRight = true;
   }
-  if (in.code == InsertKey) m_session.tool.InsertPoints = true;
-  if (in.code == 'R') m_session.tool.NextClickIsRight = true;
+  ShowToolState();
 }
 
 }  // namespace landsmith

@@ -1,13 +1,15 @@
 // Undo and redo.
 #include "editor/Editor.h"
+#include "editor/MapView.h"
 
 namespace landsmith {
 
 /// The state of the project has become another one under the mode's feet.
 void Editor::ShowRestored() {
+  LoadMaps(ReloadMapView);
   m_display.DisplayAll();
   ShowStatus();
-  ShowCursor();
+  ShowToolState();
   m_host.RefreshUi();
 }
 

@@ -1,45 +1,10 @@
 // Commands that change what is seen, not what is there.
 #include "editor/Editor.h"
+#include "editor/MapView.h"
 #include "editor/Modes.h"
 #include "editor/SelectKinds.h"
 
-#include <optional>
-
 namespace landsmith {
-
-namespace {
-
-/// What a mode edits.
-std::optional<LayerKind> KindOf(ModeId mode) {
-  switch (mode) {
-    case ModeId::Map:
-      return LayerKind::Maps;
-    case ModeId::Mesh:
-      return LayerKind::Meshes;
-    case ModeId::Line:
-      return LayerKind::Lines;
-    case ModeId::Poly:
-      return LayerKind::Polys;
-    case ModeId::Object:
-      return LayerKind::Objects;
-    case ModeId::Exclude:
-      return LayerKind::Excludes;
-    case ModeId::Photo:
-      return LayerKind::Photos;
-    case ModeId::Land:
-      return LayerKind::Lands;
-    case ModeId::Water:
-      return LayerKind::Waters;
-    case ModeId::Fill:
-      return LayerKind::Fills;
-    case ModeId::Pointer:
-    case ModeId::Zoom:
-      return {};
-  }
-  return {};
-}
-
-}  // namespace
 
 void Editor::AfterViewChange() {
   m_display.DisplayAll();
@@ -84,12 +49,15 @@ void Editor::SetGrid(int lod) {
   m_session.view.GridLod = lod;
   m_session.view.FillSize = FillSizeOfGrid(lod);
   m_display.DisplayAll();
+  ShowToolState();
+  // Its form shows the size of the brush.
+  if (m_session.tool.Mode == ModeId::Fill) m_host.ShowModeForm(ModeId::Fill);
   m_host.RefreshUi();
 }
 
 void Editor::ToggleShown(LayerKind kind) {
   bool& shown = m_session.view.ShowFlag[static_cast<std::size_t>(kind)];
-  if (kind == LayerKind::Lines && m_session.tool.Mode == ModeId::Line) {
+  if (kind == SetupOf(m_session.tool.Mode).Kind) {
     shown = true;
     m_host.RefreshUi();
     return;
@@ -117,7 +85,7 @@ void Editor::ToggleViewAll() {
   auto& shown = m_session.view.ShowFlag;
   shown.fill(false);
   shown[static_cast<std::size_t>(LayerKind::Grid)] = true;  // no kind of item
-  if (const auto kind = KindOf(m_session.tool.Mode)) shown[static_cast<std::size_t>(*kind)] = true;
+  if (const auto kind = SetupOf(m_session.tool.Mode).Kind) shown[static_cast<std::size_t>(*kind)] = true;
   m_display.DisplayAll();
   m_host.RefreshUi();
 }
@@ -140,6 +108,7 @@ void Editor::SettingsChanged(bool centerChanged) {
   }
   UpdateScale(m_session.view);
   PanDisplay(m_session.view, 0, 0);
+  LoadMaps(LoadMapView);
   AfterViewChange();
   m_host.RefreshUi();
 }

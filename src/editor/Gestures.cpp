@@ -1,7 +1,7 @@
 #include "editor/Gestures.h"
 
+#include "editor/AutoJoin.h"
 #include "editor/SelectKinds.h"
-#include "vector/LineJoin.h"
 
 #include <algorithm>
 
@@ -9,7 +9,7 @@ namespace landsmith {
 
 namespace {
 
-constexpr int SettleMilliseconds = 30, RepaintMilliseconds = 20;
+constexpr int RepaintMilliseconds = 20;
 constexpr float PixelsPerZoomStep = 50;
 constexpr std::int32_t BoxColor = 255;
 
@@ -66,7 +66,7 @@ void ZoomDrag::Update(const PointerInput& in) {
 
 void RubberBox::Update(const PointerInput& in) {
   m_now = in.raw;
-  m_context.display.RedrawOverlay();
+  m_context.display.RedrawTop();
 }
 
 void RubberBox::Paint(Surface& surface) const {
@@ -101,9 +101,9 @@ void RubberBox::Repaint() {
     m_context.display.RedrawOverlay();
 }
 
-MoveDrag::MoveDrag(ModeContext& context, const PointerInput& in)
+MoveDrag::MoveDrag(ModeContext& context, const PointerInput& in, int settleMilliseconds)
     : m_context(context), m_edit(context.session, context.display, -1), m_last(in.at) {
-  m_settling = context.host.StartTimer(TimerId::DragSettle, SettleMilliseconds);
+  m_settling = context.host.StartTimer(TimerId::DragSettle, settleMilliseconds);
 }
 
 void MoveDrag::Update(const PointerInput& in) {
@@ -130,14 +130,13 @@ void MoveDrag::Tick(TimerId timer) {
   if (timer == TimerId::DragRedraw) Repaint();
 }
 
-void MoveDrag::JoinMovedLine() {
-  Session& session = m_context.session;
-  if (session.tool.Mode != ModeId::Line || session.settings.AutoLineJoin != 1 || !m_moving) return;
-  if (m_moving->Lines.empty()) return;
-  ProjectState& project = m_edit.Project();
-  if (!TryAutoJoin(project, m_moving->Lines.front(), session.settings, session.view.Scale)) return;
-  RecountSelection(project, session.tool.Selected);
-  session.dialogs.Beep();
+void MoveDrag::JoinMovedFigure() {
+  const ModeId mode = m_context.session.tool.Mode;
+  if (!m_moving) return;
+  if (mode == ModeId::Line && !m_moving->Lines.empty())
+    AutoJoinFigure(m_context.session, m_edit, LayerKind::Lines, m_moving->Lines.front());
+  if (mode == ModeId::Poly && !m_moving->Polys.empty())
+    AutoJoinFigure(m_context.session, m_edit, LayerKind::Polys, m_moving->Polys.front());
 }
 
 void MoveDrag::Finish() {
@@ -146,7 +145,7 @@ void MoveDrag::Finish() {
 }
 
 void MoveDrag::End(const PointerInput&) {
-  JoinMovedLine();
+  JoinMovedFigure();
   Finish();
   m_context.host.RefreshUi();
 }

@@ -16,6 +16,8 @@ public:
   void Cancel() override;
   void Tick(TimerId timer) override;
   CursorShape Cursor() const override { return CursorShape::Pan; }
+  bool MovesView() const override { return true; }
+  std::string Hint() const override { return "Drag: move the view"; }
 
 private:
   void Repaint();
@@ -34,6 +36,8 @@ public:
   void End(const PointerInput&) override {}
   void Cancel() override {}
   CursorShape Cursor() const override { return CursorShape::Zoom; }
+  bool MovesView() const override { return true; }
+  std::string Hint() const override { return "Drag up: zoom in. Drag down: zoom out"; }
 
 private:
   ModeContext& m_context;
@@ -49,6 +53,7 @@ public:
   void End(const PointerInput& in) override;
   void Cancel() override;
   CursorShape Cursor() const override { return CursorShape::Cross; }
+  std::string Hint() const override { return "Drag: select what lies wholly inside"; }
   void Paint(Surface& surface) const override;
 
 private:
@@ -62,17 +67,18 @@ private:
 /// What has been moved stays moved when the drag is cancelled.
 class MoveDrag final : public Gesture {
 public:
-  MoveDrag(ModeContext& context, const PointerInput& in);
+  MoveDrag(ModeContext& context, const PointerInput& in, int settleMilliseconds = 30);
   void Update(const PointerInput& in) override;
   void End(const PointerInput& in) override;
   void Cancel() override;
   void Tick(TimerId timer) override;
   CursorShape Cursor() const override { return CursorShape::Move; }
+  std::string Hint() const override { return "Drag: move the selection"; }
 
 private:
   void Repaint();
   void Finish();
-  void JoinMovedLine();
+  void JoinMovedFigure();
 
   ModeContext& m_context;
   Edit m_edit;

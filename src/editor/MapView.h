@@ -1,10 +1,16 @@
 // Which bitmap of each map is seen: the view.
+//
+// A map has a bitmap for each view and three calibrations. Level[0] of its record and the view's list of
+// pictures say what is seen at present; LoadMapView alone brings them up to date.
 #pragma once
 
 #include "core/Records.h"
+#include "editor/Session.h"
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
+#include <filesystem>
 #include <string>
 #include <string_view>
 
@@ -32,5 +38,22 @@ inline constexpr std::array<MapViewRow, 9> MapViews{{{"Summer", &MapRec::BMPSu, 
 const MapViewRow* FindMapView(std::string_view name);
 /// The calibration that the view shows; the main one for no view.
 std::size_t LevelOfView(std::string_view name);
+
+class CanvasSurfaces;
+
+/// Gives every map the picture and the calibration of `session.view.MapView`. A picture that is missing or no
+/// picture ends it without a word: that map and those behind it stay as they were. Does nothing to the maps
+/// without a view. Looking is no change of the project: records are touched only where they differ, nothing
+/// becomes unsaved, and there is nothing to undo.
+void LoadMapView(Session& session, CanvasSurfaces& surfaces);
+/// The same for a list of maps that has become another one: no map keeps its picture.
+void ReloadMapView(Session& session, CanvasSurfaces& surfaces);
+
+/// The file that a view shows of a map, on this machine; empty for none. `mesh8`: the mesh view takes the
+/// sister bitmap "..._8.BMP" with the brighter colours.
+std::filesystem::path PictureOfView(const MapRec& map, const MapViewRow& view, bool mesh8);
+
+/// The colour of an altitude in a mesh bitmap, of whole metres or, with `mesh8`, of the brighter sister.
+std::int32_t ColorOfAltitude(float altitude, bool mesh8);
 
 }  // namespace landsmith

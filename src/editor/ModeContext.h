@@ -3,6 +3,7 @@
 
 #include "editor/Display.h"
 #include "editor/EditorHost.h"
+#include "editor/Measure.h"
 #include "editor/Session.h"
 
 #include <optional>
@@ -16,17 +17,13 @@ struct ModeContext {
   /// Set by a press that asks for the context menu; the editor opens it when the press has ended, since a
   /// menu may replace the mode that asked.
   std::optional<PixelOffset> menuAt;
+  Measure measure;
+  bool labelShown = false;  ///< the label beside the mouse
 };
 
 /// One step about the display centre, repainted.
 void ZoomAboutCenter(ModeContext& context, ZoomStep step);
 /// The point becomes the centre, then one step.
 void ZoomAtPoint(ModeContext& context, PixelOffset at, ZoomStep step);
-
-/// Starts the timer that puts repaints together, or repaints at once in a window without timers.
-void RedrawSoon(ModeContext& context, TimerId timer);
-
-/// The label of what is under the mouse, when the setting asks for labels.
-void ShowLabelUnderMouse(ModeContext& context);
 
 }  // namespace landsmith

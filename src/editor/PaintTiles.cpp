@@ -1,4 +1,4 @@
-// Layers of boxes: map frames, meshes, photos, area fills, excludes.
+// Layers of boxes: meshes, photos, area fills, excludes.
 #include "core/Color.h"
 #include "editor/PaintHelpers.h"
 #include "editor/Painters.h"
@@ -9,7 +9,6 @@ namespace landsmith {
 
 namespace {
 
-constexpr std::int32_t MapSelectionColor = 65535;
 constexpr std::int32_t FillSelectionColor = 65280, HandleColor = 65280;
 
 void HatchedBox(Surface& surface, const PixelBox& box, std::int32_t color) {
@@ -46,19 +45,6 @@ void DrawHandle(Surface& surface, std::int32_t x, std::int32_t y) {
 }
 
 }  // namespace
-
-void DisplayMaps(Surface& surface, const PaintInput& in) {
-  for (const MapRec& map : in.project.Maps) {
-    const MapLevel& shown = map.Level[0];
-    const GeoBox area{shown.NLat, shown.SLat, shown.WLon, shown.ELon};
-    if (!in.Takes(map.Selected) || !Meets(in.view, area)) continue;
-    if (!map.Selected && !in.settings.BorderON) continue;
-    surface.SetPen(map.Selected ? MapSelectionColor : 0, map.Selected ? 2 : 1);
-    surface.SetBrush(0, BrushStyle::None);
-    surface.Box(CanvasBox(in.view, area));
-  }
-  surface.SetPen(0);
-}
 
 void DisplayMeshes(Surface& surface, const PaintInput& in) {
   for (const MeshRec& mesh : in.project.Meshes) {

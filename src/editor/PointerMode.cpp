@@ -1,6 +1,7 @@
 #include "editor/PointerMode.h"
 
 #include "editor/Gestures.h"
+#include "editor/HitSelect.h"
 #include "editor/Modes.h"
 #include "editor/SelectKinds.h"
 
@@ -13,10 +14,14 @@ std::unique_ptr<Gesture> PointerMode::Press(const PointerInput& in) {
 }
 
 std::unique_ptr<Gesture> PointerMode::PressLeft(const PointerInput& in) {
-  Session& session = m_context.session;
+  Session& session = TheSession();
   if (!in.shift) ClearSelection(session.project, session.tool);
   const bool hit =
       HitSelect(session.project, m_context.display.Index(), session.view, in.at, session.tool.Selected);
+  if (!hit && session.tool.MeasureOn) {
+    m_context.measure.Click(ToLatLon(session.view, in.at));
+    return nullptr;
+  }
   if (!hit) return StartRubberBox(m_context, in, LayerMask::All);
   // What may move goes to the overlay, so that the drag redraws nothing else.
   m_context.display.RebuildDisplay(session.tool.Selected.MapSelected ? LayerMask::DragWithMap
@@ -25,14 +30,8 @@ std::unique_ptr<Gesture> PointerMode::PressLeft(const PointerInput& in) {
   return std::make_unique<MoveDrag>(m_context, in);
 }
 
-void PointerMode::Hover(const PointerInput&) {
-  constexpr int labelMilliseconds = 100;
-  if (m_context.session.settings.ShowLabels == 0) return;
-  if (!m_context.host.StartTimer(TimerId::Rubber, labelMilliseconds)) ShowLabelUnderMouse(m_context);
-}
-
-void PointerMode::Tick(TimerId timer) {
-  if (timer == TimerId::Rubber) ShowLabelUnderMouse(m_context);
+std::string PointerMode::Hint() const {
+  return "Click: select. Shift+click: select more. Drag: move, or select in a box. Right click: menu";
 }
 
 }  // namespace landsmith

@@ -1,22 +1,18 @@
 // Selecting and moving what is on the canvas.
 #pragma once
 
-#include "editor/ModeContext.h"
-#include "editor/ToolMode.h"
+#include "editor/CanvasMode.h"
 
 namespace landsmith {
 
-class PointerMode final : public ToolMode {
+class PointerMode final : public CanvasMode {
 public:
-  explicit PointerMode(ModeContext& context) : m_context(context) {}
+  using CanvasMode::CanvasMode;
   std::unique_ptr<Gesture> Press(const PointerInput& in) override;
-  void Hover(const PointerInput& in) override;
-  void Tick(TimerId timer) override;
+  std::string Hint() const override;
 
 private:
   std::unique_ptr<Gesture> PressLeft(const PointerInput& in);
-
-  ModeContext& m_context;
 };
 
 }  // namespace landsmith

@@ -144,7 +144,6 @@ void SelectEverything(ProjectState& project, const ViewState& view, bool state, 
   for (std::size_t i = 0; i < LayerKindCount; ++i) {
     const auto kind = static_cast<LayerKind>(i);
     if (kind == LayerKind::Maps || kind == LayerKind::Grid || !view.Shows(kind)) continue;
-    if (tool.Mode == ModeId::Line && kind != LayerKind::Lines) continue;
     MarkKind(project, kind, state, tool.Selected);
   }
   RecountSelection(project, tool.Selected);
@@ -190,15 +189,6 @@ void SelectInBox(ProjectState& project, const GeometryIndex& index, const ViewSt
   if (takes(LayerKind::Waters, any)) MarkCellsInside(project.Waters, view.Classes, box, selection);
   if (takes(LayerKind::Meshes, any)) MarkInside(project.Meshes, box, selection);
   if (takes(LayerKind::Objects, ModeId::Object)) MarkInside(project.Objects, box, selection);
-}
-
-bool HitSelect(ProjectState& project, const GeometryIndex& index, const ViewState& view, PixelOffset at,
-               Selection& selection) {
-  if (!view.Shows(LayerKind::Lines)) return false;
-  const WorldPixel place = ToWorldPixel(view, at);
-  const auto pieces = index.Lines.PiecesMeeting(CursorBox(place, view.Scale));
-  return HitPoint(project.Lines, pieces, place, view.Scale, selection).has_value() ||
-         HitPath(project.Lines, pieces, place, view.Scale, selection).has_value();
 }
 
 void DeleteSelectedItems(ProjectState& project, Selection& selection) {

@@ -17,7 +17,7 @@ void ClearSelection(ProjectState& project, ToolState& tool);
 /// Marks or clears every item of a kind; a kind that is hidden stays as it is.
 void SelectAllOfKind(ProjectState& project, const ViewState& view, LayerKind kind, bool state,
                      Selection& selection);
-/// Every kind but maps; in Line mode lines alone.
+/// Every kind that is shown, but no maps.
 void SelectEverything(ProjectState& project, const ViewState& view, bool state, ToolState& tool);
 /// Turns round lines, polygons, objects, photos and fills that are shown.
 void InvertShownSelection(ProjectState& project, const ViewState& view, Selection& selection);
@@ -25,10 +25,6 @@ void InvertShownSelection(ProjectState& project, const ViewState& view, Selectio
 /// of that kind alone. `index` describes the project.
 void SelectInBox(ProjectState& project, const GeometryIndex& index, const ViewState& view, const GeoBox& box,
                  ToolState& tool);
-
-/// Adds what lies under the mouse: a vertex of a line, else a line. False when nothing does.
-bool HitSelect(ProjectState& project, const GeometryIndex& index, const ViewState& view, PixelOffset at,
-               Selection& selection);
 
 /// Every selected item and point.
 void DeleteSelectedItems(ProjectState& project, Selection& selection);

@@ -74,6 +74,10 @@ public:
   virtual void Cancel() = 0;
   virtual void Tick(TimerId) {}
   virtual CursorShape Cursor() const { return CursorShape::Arrow; }
+  /// Whether it moves the view and not what is on the canvas.
+  virtual bool MovesView() const { return false; }
+  /// What the mouse does meanwhile, in a few words for the status bar.
+  virtual std::string Hint() const { return {}; }
   /// Drawn on top of the overlay while the drag lasts.
   virtual void Paint(Surface&) const {}
 };
@@ -87,7 +91,8 @@ public:
   virtual bool Key(const KeyInput&) { return false; }  ///< true: used
   virtual void Tick(TimerId) {}
   virtual CursorShape Cursor() const { return CursorShape::Arrow; }
-  virtual void Leave() {}    ///< ends what is half made
+  virtual bool IsDrawing() const { return false; }  ///< a figure is begun and not ended
+  virtual void Leave() {}                           ///< ends what is half made
   virtual void Abandon() {}  ///< forgets what is half made; the project is about to be restored
   /// What a click does at this moment, in a few words for the status bar: "Click: start a line".
   virtual std::string Hint() const { return {}; }

@@ -1,9 +1,11 @@
 // The tool at hand and what its gestures keep between events.
 #pragma once
 
+#include "editor/VertexRef.h"
 #include "vector/Selection.h"
 
 #include <cstdint>
+#include <optional>
 
 namespace landsmith {
 
@@ -18,7 +20,8 @@ struct ToolState {
   bool SelectAllOn = false;  ///< the next Select All clears the selection
   bool ViewAllOn = false;    ///< the kind of the mode at hand is alone on the canvas
   bool MeasureOn = false;
-  bool PasteArmed = false;  ///< the next left press pastes
+  bool PasteArmed = false;        ///< the next left press pastes
+  std::optional<VertexRef> Walk;  ///< where the walk by the arrow keys stands
 };
 
 }  // namespace landsmith

@@ -17,6 +17,18 @@ void UndoRing::Take(UndoSnapshot before, std::size_t depth) {
   m_place = m_states.size();
 }
 
+void UndoRing::Withdraw(ProjectState& present) {
+  if (!CanUndo() || CanRedo()) return;
+  const ProjectState& before = m_states.back().Project;
+  const bool dirty = std::exchange(present.Dirty, before.Dirty);
+  if (present == before) {
+    m_states.pop_back();
+    --m_place;
+  } else {
+    present.Dirty = dirty;
+  }
+}
+
 std::optional<UndoSnapshot> UndoRing::Undo(UndoSnapshot present) {
   if (!CanUndo()) return {};
   if (m_place == m_states.size()) m_states.emplace_back();

@@ -29,6 +29,10 @@ public:
   /// kept, the oldest falls out.
   void Take(UndoSnapshot before, std::size_t depth);
 
+  /// Forgets the state taken last when `present` is that state again: there is nothing to undo then.
+  /// `present` gets its mark of being unsaved back.
+  void Withdraw(ProjectState& present);
+
   bool CanUndo() const { return m_place > 0; }
   bool CanRedo() const { return m_place + 1 < m_states.size(); }
   std::size_t UndoCount() const { return m_place; }

@@ -12,6 +12,8 @@
 
 #include <array>
 #include <cstdint>
+#include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -25,7 +27,8 @@ inline constexpr std::size_t LayerKindCount = 11;
 namespace LayerMask {
 inline constexpr int Maps = 1, Grid = 2, Polys = 4, Lines = 8, Excludes = 16, Fills = 32, Waters = 64,
                      Objects = 128, MeshesAndPhotos = 256, Lands = 512;
-inline constexpr int All = 1023, AllButLines = 1015, AllButPolys = 1019;
+inline constexpr int All = 1023, AllButLines = 1015, AllButPolys = 1019, AllButObjects = 895,
+                     AllButExcludes = 1007;
 inline constexpr int Drag = 867, DragWithMap = 866;  ///< what stays in the base image during a drag
 }  // namespace LayerMask
 
@@ -33,6 +36,14 @@ inline constexpr int Drag = 867, DragWithMap = 866;  ///< what stays in the base
 struct PixelOffset {
   float x = 0;
   float y = 0;
+};
+
+/// What the maps show at present: the work of LoadMapView.
+struct MapPictures {
+  /// One file a map; an empty one, or none, for a map without a picture.
+  std::vector<std::filesystem::path> Files;
+  /// The altitude that is marked in the mesh view: pixels of this colour get another one.
+  std::optional<std::int32_t> ChangeColorFrom;
 };
 
 struct ViewState {
@@ -48,6 +59,7 @@ struct ViewState {
   int GridLod = 0;  ///< 0 no grid, else 5 to 19
   int FillSize = 1;
   std::string MapView;  ///< "Summer", ..., or empty
+  MapPictures Pictures;
   ClassWindow Classes;
   bool ShowAircraft = false;
   LatLon Aircraft;

@@ -33,6 +33,19 @@ struct PixelSpan {
   bool operator==(const PixelSpan&) const = default;
 };
 
+/// Pixels of the canvas, also between them.
+struct FloatBox {
+  float left = 0;
+  float top = 0;
+  float width = 0;
+  float height = 0;
+  bool operator==(const FloatBox&) const = default;
+};
+
+/// Smooth: where pixels of the picture are lost, their mean is shown. Exact: every colour shown is one of the
+/// picture's, for pictures whose colours mean something.
+enum class PictureQuality { Smooth, Exact };
+
 enum class PenStyle { Solid, Dot, None };
 enum class BrushStyle { Solid, DiagonalCross, None };
 
@@ -58,6 +71,12 @@ public:
   /// Paints a bitmap file scaled to `box`; a box without size paints it at its natural size from its top
   /// left corner. A file that cannot be shown paints nothing.
   virtual void Image(const std::filesystem::path& file, const PixelBox& box) = 0;
+  /// Stretches a part of a bitmap file, in its own pixels, over `target`. What lies outside the picture or
+  /// outside the surface is left out, the rest stays in its place. Enlarged pixels stay square.
+  virtual void ImagePart(const std::filesystem::path& file, const PixelBox& source, const FloatBox& target,
+                         PictureQuality quality) = 0;
+  /// Gives all pixels of one colour another one, over the whole surface. Transparent ones have no colour.
+  virtual void ReplaceColor(std::int32_t from, std::int32_t to) = 0;
   /// A text in the pen's colour, its top left corner at `at`. UTF-8.
   virtual void Text(PixelPoint at, std::string_view text) = 0;
   /// The colour of one pixel as painted so far; white outside.

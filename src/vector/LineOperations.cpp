@@ -115,10 +115,9 @@ float MeanWidth(const LineRec& line) {
 
 PolyRec MakePolyFromLine(const LineRec& line) {
   PolyRec poly;
-  poly.Name = line.Name;
   for (const LinePoint& point : line.Points)
     poly.Points.push_back({point.Lon, point.Lat, 0, false});
-  if (poly.Points.size() > 1 && poly.Points.front() == poly.Points.back()) poly.Points.pop_back();
+  if (poly.Points.size() > 1 && SamePlace(poly.Points.front(), poly.Points.back())) poly.Points.pop_back();
   SetPathBounds(poly);
   return poly;
 }

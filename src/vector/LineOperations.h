@@ -38,7 +38,8 @@ void SetLineWidths(LineRec& line, float first, float last);
 /// Mean of all widths as a 32-bit float.
 float MeanWidth(const LineRec& line);
 
-/// Name and vertices of the line; a closed line's last vertex is left out. The caller appends it.
+/// The line's vertices as a polygon without name and type; a closed line's last vertex is left out. The
+/// caller appends it.
 PolyRec MakePolyFromLine(const LineRec& line);
 
 }  // namespace landsmith

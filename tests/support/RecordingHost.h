@@ -13,8 +13,11 @@ namespace landsmith::test {
 class RecordingHost final : public EditorHost {
 public:
   std::vector<PopupTarget> menus;
-  std::vector<std::optional<std::size_t>> lineForms;
+  std::vector<std::optional<std::size_t>> lineForms, polyForms;
+  std::vector<std::optional<ModeId>> modeForms;
+  std::string label, hint;
   std::map<TimerId, int> running;  ///< timers that tick when the test says so
+  PixelPoint labelAt;
   CursorShape cursor = CursorShape::Arrow;
   StatusPanels status;
   bool acceptProperties = false;
@@ -27,6 +30,13 @@ public:
   void SetCursor(CursorShape shape) override { cursor = shape; }
   void ShowContextMenu(const PopupTarget& target) override { menus.push_back(target); }
   void ShowLineProperties(std::optional<std::size_t> line) override { lineForms.push_back(line); }
+  void ShowPolyProperties(std::optional<std::size_t> poly) override { polyForms.push_back(poly); }
+  void ShowModeForm(std::optional<ModeId> mode) override { modeForms.push_back(mode); }
+  void ShowHoverLabel(std::string_view text, PixelPoint at) override {
+    label = text;
+    labelAt = at;
+  }
+  void SetHint(std::string_view text) override { hint = text; }
   bool ShowProjectProperties() override {
     ++propertiesShown;
     if (inProperties) inProperties();

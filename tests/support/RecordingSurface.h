@@ -13,12 +13,23 @@ namespace landsmith::test {
 class RecordingSurface final : public Surface {
 public:
   struct Call {
-    enum class Kind { Polygon, Polyline, Box, Spans, Image, Text } kind = Kind::Polygon;
+    enum class Kind {
+      Polygon,
+      Polyline,
+      Box,
+      Spans,
+      Image,
+      ImagePart,
+      ReplaceColor,
+      Text
+    } kind = Kind::Polygon;
     std::int32_t pen = 0, penWidth = 1, brush = 0;
     PenStyle penStyle = PenStyle::Solid;
     BrushStyle brushStyle = BrushStyle::None;
     std::vector<PixelPoint> points;
-    PixelBox box;
+    PixelBox box;  ///< of an ImagePart the source
+    FloatBox target;
+    PictureQuality quality = PictureQuality::Smooth;
     std::string text;
   };
   std::vector<Call> calls;
@@ -54,6 +65,19 @@ public:
     call.text = file.filename().string();
     call.box = box;
   }
+  void ImagePart(const std::filesystem::path& file, const PixelBox& source, const FloatBox& target,
+                 PictureQuality quality) override {
+    Call& call = Keep(Call::Kind::ImagePart);
+    call.text = file.filename().string();
+    call.box = source;
+    call.target = target;
+    call.quality = quality;
+  }
+  void ReplaceColor(std::int32_t from, std::int32_t to) override {
+    Call& call = Keep(Call::Kind::ReplaceColor);
+    call.pen = from;
+    call.brush = to;
+  }
   void Text(PixelPoint, std::string_view text) override { Keep(Call::Kind::Text).text = text; }
   std::int32_t Pixel(PixelPoint) const override { return 0xFFFFFF; }
 
@@ -75,17 +99,25 @@ private:
 
 class RecordingCanvas final : public CanvasSurfaces {
 public:
-  RecordingSurface base, overlay;
-  std::vector<std::int32_t> cleared;  ///< colours of the base image, in turn
+  RecordingSurface base, overlay, top;
+  std::vector<std::int32_t> cleared;          ///< colours of the base image, in turn
+  std::vector<std::filesystem::path> loaded;  ///< pictures asked for; those that exist can be shown
   int presented = 0;
 
   Surface& Base() override { return base; }
   Surface& Overlay() override { return overlay; }
+  Surface& Top() override { return top; }
   void ClearBase(std::int32_t color) override {
     cleared.push_back(color);
     base.calls.clear();
   }
   void ClearOverlay() override { overlay.calls.clear(); }
+  void ClearTop() override { top.calls.clear(); }
+  bool LoadPicture(const std::filesystem::path& file) override {
+    loaded.push_back(file);
+    return std::filesystem::exists(file);
+  }
+  void KeepPictures(std::span<const std::filesystem::path>) override {}
   void Present() override { ++presented; }
 };
 

@@ -5,6 +5,7 @@
 #include <QPixmap>
 #include <QSvgRenderer>
 
+#include <algorithm>
 #include <array>
 
 // Resources of a static library come in only when they are asked for, from outside any namespace.
@@ -47,10 +48,35 @@ QIcon RenderIcon(const QByteArray& svg) {
   return icon;
 }
 
-QCursor PictureCursor(const QString& name, QPoint hotSpot) {
-  QSvgRenderer picture(ReadResource(QStringLiteral(":/cursors/%1.svg").arg(name)));
+/// A cursor drawn in a picture of 32 by 32: its file and the pixel that points.
+struct CursorRow {
+  CursorShape shape;
+  const char* name;
+  int x, y;
+};
+
+// Where a tool acts on a point, the cross points and the picture beside it names the tool.
+constexpr std::array CursorTable{
+    CursorRow{CursorShape::Pan, "Pan", 16, 18},       CursorRow{CursorShape::Zoom, "Zoom", 13, 13},
+    CursorRow{CursorShape::Map, "Map", 10, 10},       CursorRow{CursorShape::Land, "Land", 10, 10},
+    CursorRow{CursorShape::Water, "Water", 10, 10},   CursorRow{CursorShape::Photo, "Photo", 10, 10},
+    CursorRow{CursorShape::Line, "Line", 10, 10},     CursorRow{CursorShape::Poly, "Poly", 10, 10},
+    CursorRow{CursorShape::Fill1, "Fill1", 10, 10},   CursorRow{CursorShape::Fill2, "Fill2", 10, 10},
+    CursorRow{CursorShape::Fill4, "Fill4", 10, 10},   CursorRow{CursorShape::Fill8, "Fill8", 10, 10},
+    CursorRow{CursorShape::Fill16, "Fill16", 10, 10}, CursorRow{CursorShape::Fill32, "Fill32", 10, 10},
+    CursorRow{CursorShape::Object, "Object", 10, 10}, CursorRow{CursorShape::Exclude, "Exclude", 10, 10},
+    CursorRow{CursorShape::Mesh, "Mesh", 10, 10},     CursorRow{CursorShape::Move, "Move", 16, 16},
+    CursorRow{CursorShape::Resize, "Resize", 16, 16}, CursorRow{CursorShape::Rotate, "Rotate", 16, 16},
+    CursorRow{CursorShape::Paste, "Paste", 10, 10},   CursorRow{CursorShape::Measure, "Measure", 10, 10},
+};
+
+QCursor PictureCursor(const CursorRow& row, double ratio) {
+  const QString file = QStringLiteral(":/cursors/%1.svg").arg(QLatin1String(row.name));
+  QSvgRenderer picture(ReadResource(file));
   if (!picture.isValid()) return QCursor(Qt::CrossCursor);
-  return QCursor(Render(picture, CursorSize, 1.0), hotSpot.x(), hotSpot.y());
+  QPixmap pixmap = Render(picture, qRound(CursorSize * ratio), 1.0);
+  pixmap.setDevicePixelRatio(ratio);
+  return QCursor(pixmap, row.x, row.y);
 }
 
 }  // namespace
@@ -65,26 +91,12 @@ QIcon ProgramIcon() {
   return RenderIcon(ReadResource(QStringLiteral(":/icons/Landsmith.svg")));
 }
 
-QCursor ToQCursor(CursorShape shape) {
-  switch (shape) {
-    case CursorShape::Arrow:
-      return QCursor(Qt::ArrowCursor);
-    case CursorShape::Cross:
-      return QCursor(Qt::CrossCursor);
-    case CursorShape::Busy:
-      return QCursor(Qt::WaitCursor);
-    case CursorShape::Pan:
-      return PictureCursor(QStringLiteral("Pan"), {16, 18});
-    case CursorShape::Zoom:
-      return PictureCursor(QStringLiteral("Zoom"), {13, 13});
-    case CursorShape::Line:
-      return PictureCursor(QStringLiteral("Line"), {16, 16});
-    case CursorShape::Move:
-      return PictureCursor(QStringLiteral("Move"), {16, 16});
-    default:
-      break;
-  }
-  return QCursor(Qt::ArrowCursor);
+QCursor ToQCursor(CursorShape shape, double ratio) {
+  if (shape == CursorShape::Cross) return QCursor(Qt::CrossCursor);
+  if (shape == CursorShape::Busy) return QCursor(Qt::WaitCursor);
+  const auto row = std::find_if(CursorTable.begin(), CursorTable.end(),
+                                [shape](const CursorRow& r) { return r.shape == shape; });
+  return row == CursorTable.end() ? QCursor(Qt::ArrowCursor) : PictureCursor(*row, ratio);
 }
 
 }  // namespace landsmith

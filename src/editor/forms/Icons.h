@@ -16,6 +16,7 @@ QIcon ToolIcon(const QString& key, const QPalette& palette);
 
 QIcon ProgramIcon();
 
-QCursor ToQCursor(CursorShape shape);
+/// `ratio`: device pixels to a pixel of the window; the picture is drawn as sharp as the screen shows it.
+QCursor ToQCursor(CursorShape shape, double ratio);
 
 }  // namespace landsmith

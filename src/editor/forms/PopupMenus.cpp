@@ -7,7 +7,10 @@
 #include <QFont>
 #include <QPoint>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
+#include <string_view>
 
 namespace landsmith {
 
@@ -20,26 +23,30 @@ void MakeTitle(QAction& action) {
   action.setEnabled(false);
 }
 
+/// The general menu's form is that of the project.
+bool HasForm(const std::string& kind) {
+  constexpr std::array<std::string_view, 6> kinds{"", "Line", "Poly", "PtInLine", "PtInPoly", "Map"};
+  return std::find(kinds.begin(), kinds.end(), kind) != kinds.end();
+}
+
 }  // namespace
 
 PopupMenus::PopupMenus(QWidget& canvas, Editor& editor)
     : m_canvas(canvas),
       m_editor(editor),
       m_general(MakeMenu("mnuPUGeneral")),
+      m_maps(MakeMenu("mnuPUMaps")),
       m_objects(MakeMenu("mnuPUObjects")) {
-  m_generalTitle = Add(*m_general, "mnuPUGeneralItem", {}, nullptr);
-  m_general->addSeparator();
-  AddViewCommands(*m_general);
-  m_general->addSeparator();
-  Add(*m_general, "mnuPUGeneralProperties", QObject::tr("&Properties ..."), &PopupMenus::Properties);
-
-  m_objectsTitle = Add(*m_objects, "mnuPUObjectsItem", {}, nullptr);
-  m_objects->addSeparator();
-  AddViewCommands(*m_objects);
-  m_objects->addSeparator();
-  Add(*m_objects, "mnuPUObjectsDelete", QObject::tr("&Delete"), &PopupMenus::Delete);
-  m_objectsProperties =
-      Add(*m_objects, "mnuPUObjectsProperties", QObject::tr("&Properties ..."), &PopupMenus::Properties);
+  for (QMenu* menu : {m_general, m_maps, m_objects}) {
+    Add(*menu, "Item", {}, nullptr);
+    menu->addSeparator();
+    Add(*menu, "Center", QObject::tr("&Center"), &PopupMenus::Center);
+    Add(*menu, "ZI", QObject::tr("Zoom &In"), &PopupMenus::ZoomIn);
+    Add(*menu, "ZO", QObject::tr("Zoom &Out"), &PopupMenus::ZoomOut);
+    menu->addSeparator();
+    if (menu != m_general) Add(*menu, "Delete", QObject::tr("&Delete"), &PopupMenus::Delete);
+    Add(*menu, "Properties", QObject::tr("&Properties ..."), &PopupMenus::Properties);
+  }
 }
 
 QMenu* PopupMenus::MakeMenu(const char* name) {
@@ -48,35 +55,30 @@ QMenu* PopupMenus::MakeMenu(const char* name) {
   return menu;
 }
 
-QAction* PopupMenus::Add(QMenu& menu, const char* name, const QString& text, void (PopupMenus::*command)()) {
+/// The item is named as its menu and its part; without a command it is the title.
+void PopupMenus::Add(QMenu& menu, const char* part, const QString& text, void (PopupMenus::*command)()) {
   QAction* action = menu.addAction(text);
-  action->setObjectName(QString::fromLatin1(name));
+  action->setObjectName(menu.objectName() + QLatin1String(part));
   if (command)
     QObject::connect(action, &QAction::triggered, &m_canvas, [this, command] { (this->*command)(); });
   else
     MakeTitle(*action);
-  return action;
 }
 
-void PopupMenus::AddViewCommands(QMenu& menu) {
-  const QByteArray prefix = menu.objectName().toLatin1();
-  Add(menu, (prefix + "Center").constData(), QObject::tr("&Center"), &PopupMenus::Center);
-  Add(menu, (prefix + "ZI").constData(), QObject::tr("Zoom &In"), &PopupMenus::ZoomIn);
-  Add(menu, (prefix + "ZO").constData(), QObject::tr("Zoom &Out"), &PopupMenus::ZoomOut);
+QMenu& PopupMenus::MenuOf(const PopupTarget& target) {
+  if (target.Kind.empty()) return *m_general;
+  return target.Kind == "Map" ? *m_maps : *m_objects;
 }
 
 void PopupMenus::Show(const PopupTarget& target) {
   m_target = target;
-  const bool general = target.Kind.empty();
-  if (general)
-    m_generalTitle->setText(LiteralText(ToUpper(m_editor.State().project.Name)));
-  else
-    m_objectsTitle->setText(LiteralText(target.Title));
-  // A vertex has a form of its own, which this version lacks.
-  m_objectsProperties->setEnabled(target.Kind == "Line");
+  QMenu& menu = MenuOf(target);
+  menu.actions().constFirst()->setText(
+      LiteralText(target.Kind.empty() ? ToUpper(m_editor.State().project.Name) : target.Title));
+  menu.actions().constLast()->setEnabled(HasForm(target.Kind));
   const QPoint at(static_cast<int>(std::lround(target.At.x + static_cast<float>(m_canvas.width()) / 2)),
                   static_cast<int>(std::lround(target.At.y + static_cast<float>(m_canvas.height()) / 2)));
-  (general ? m_general : m_objects)->popup(m_canvas.mapToGlobal(at));
+  menu.popup(m_canvas.mapToGlobal(at));
 }
 
 void PopupMenus::Center() {

@@ -1,5 +1,4 @@
-// The context menus of the canvas: the general one and that of an item. (Maps have one of their own once they
-// can be placed.)
+// The context menus of the canvas: the general one, that of a map and that of any other item.
 #pragma once
 
 #include "editor/Editor.h"
@@ -19,8 +18,8 @@ public:
 
 private:
   QMenu* MakeMenu(const char* name);
-  QAction* Add(QMenu& menu, const char* name, const QString& text, void (PopupMenus::*command)());
-  void AddViewCommands(QMenu& menu);
+  QMenu& MenuOf(const PopupTarget& target);
+  void Add(QMenu& menu, const char* part, const QString& text, void (PopupMenus::*command)());
 
   void Center();
   void ZoomIn();
@@ -31,10 +30,8 @@ private:
   QWidget& m_canvas;
   Editor& m_editor;
   QMenu* m_general;
+  QMenu* m_maps;
   QMenu* m_objects;
-  QAction* m_generalTitle = nullptr;
-  QAction* m_objectsTitle = nullptr;
-  QAction* m_objectsProperties = nullptr;
   PopupTarget m_target;
 };
 

@@ -1,6 +1,7 @@
 #include "forms/QtSurface.h"
 
 #include "core/Color.h"
+#include "forms/PicturePainter.h"
 
 #include <QPen>
 #include <QVarLengthArray>
@@ -20,43 +21,6 @@ QtPoints ToQPoints(std::span<const PixelPoint> points) {
   for (const PixelPoint& point : points)
     result.append(QPoint(point.x, point.y));
   return result;
-}
-
-/// One axis of a picture stretched over a box, cut to the source pixels that reach into the surface: drawing
-/// only these keeps a map exact when a zoom makes it far wider than the canvas.
-struct StretchedAxis {
-  double low, perSource;  ///< where source pixel 0 begins, and the size of one
-  int first, last;        ///< source pixels in view, `last` outside
-
-  double TargetLow() const { return low + first * perSource; }
-  double TargetSize() const { return (last - first) * perSource; }
-  int SourceSize() const { return last - first; }
-};
-
-StretchedAxis CutAxis(double low, double high, double visible, int sourcePixels) {
-  const double perSource = (high - low) / sourcePixels;
-  const double pixels = sourcePixels;
-  const double first = std::clamp(std::floor((0 - low) / perSource), 0.0, pixels);
-  const double last = std::clamp(std::ceil((visible - low) / perSource), first, pixels);
-  return {low, perSource, static_cast<int>(first), static_cast<int>(last)};
-}
-
-/// Beyond this size the painter's own stretching loses its precision.
-constexpr double MaxStretch = 16384;
-
-/// The source pixels in view as plain boxes. There are few, as each is larger than the surface on one axis.
-void FillSourcePixels(QPainter& painter, const QImage& picture, const StretchedAxis& x,
-                      const StretchedAxis& y) {
-  const auto edge = [](const StretchedAxis& axis, int index) {
-    return static_cast<int>(
-        std::clamp(std::round(axis.low + index * axis.perSource), -MaxStretch, MaxStretch));
-  };
-  for (int row = y.first; row < y.last; ++row) {
-    for (int column = x.first; column < x.last; ++column) {
-      const QPoint from(edge(x, column), edge(y, row)), to(edge(x, column + 1), edge(y, row + 1));
-      painter.fillRect(QRect(from, to - QPoint(1, 1)), picture.pixelColor(column, row));
-    }
-  }
 }
 
 }  // namespace
@@ -151,23 +115,31 @@ void QtSurface::Box(const PixelBox& box) {
 }
 
 void QtSurface::Image(const std::filesystem::path& file, const PixelBox& box) {
-  const QImage& picture = m_pictures->Find(file);
-  if (picture.isNull()) return;
+  const Picture& picture = m_pictures->Find(file);
+  if (picture.IsNull()) return;
   if (box.right <= box.left || box.bottom <= box.top) {
-    m_painter.drawImage(QPoint(box.left, box.top), picture);
+    m_painter.drawImage(QPoint(box.left, box.top), picture.Full());
     return;
   }
-  const StretchedAxis x = CutAxis(box.left, box.right, Width(), picture.width());
-  const StretchedAxis y = CutAxis(box.top, box.bottom, Height(), picture.height());
-  if (x.TargetSize() > MaxStretch || y.TargetSize() > MaxStretch) {
-    FillSourcePixels(m_painter, picture, x, y);
-    return;
+  const QRectF target(QPointF(box.left, box.top), QPointF(box.right, box.bottom));
+  PaintPicture(m_image, m_painter, picture, picture.Full().rect(), target, PictureQuality::Smooth);
+}
+
+void QtSurface::ImagePart(const std::filesystem::path& file, const PixelBox& source, const FloatBox& target,
+                          PictureQuality quality) {
+  const QRectF part(QPointF(source.left, source.top), QPointF(source.right, source.bottom));
+  PaintPicture(m_image, m_painter, m_pictures->Find(file), part,
+               QRectF(target.left, target.top, target.width, target.height), quality);
+}
+
+void QtSurface::ReplaceColor(std::int32_t from, std::int32_t to) {
+  const QRgb searched = ToQColor(from).rgb(), put = ToQColor(to).rgb();
+  const QRgb opaque = m_image.hasAlphaChannel() ? 0 : 0xFF000000;  // the fourth byte then says nothing
+  for (int y = 0; y < m_image.height(); ++y) {
+    auto* row = reinterpret_cast<QRgb*>(m_image.scanLine(y));
+    for (int x = 0; x < m_image.width(); ++x)
+      if ((row[x] | opaque) == searched) row[x] = put;
   }
-  // Smooth when pixels of the picture are lost; enlarged they stay square, so that an author can calibrate
-  // on them.
-  m_painter.setRenderHint(QPainter::SmoothPixmapTransform, x.perSource < 1);
-  m_painter.drawImage(QRectF(x.TargetLow(), y.TargetLow(), x.TargetSize(), y.TargetSize()), picture,
-                      QRectF(x.first, y.first, x.SourceSize(), y.SourceSize()));
 }
 
 void QtSurface::Text(PixelPoint at, std::string_view text) {

@@ -27,6 +27,9 @@ public:
   void Spans(std::span<const PixelSpan> spans, std::int32_t color) override;
   void Box(const PixelBox& box) override;
   void Image(const std::filesystem::path& file, const PixelBox& box) override;
+  void ImagePart(const std::filesystem::path& file, const PixelBox& source, const FloatBox& target,
+                 PictureQuality quality) override;
+  void ReplaceColor(std::int32_t from, std::int32_t to) override;
   void Text(PixelPoint at, std::string_view text) override;
   std::int32_t Pixel(PixelPoint at) const override;
 

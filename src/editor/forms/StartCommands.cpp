@@ -5,6 +5,7 @@
 #include "forms/StartTables.h"
 #include "forms/frmBGL.h"
 #include "forms/frmPreferences.h"
+#include "forms/frmShortcuts.h"
 #include "forms/frmStart.h"
 #include "platform/Paths.h"
 #include "ui_frmStart.h"
@@ -39,6 +40,10 @@ void frmStart::BindFileMenu() {
 }
 
 void frmStart::BindEditMenu() {
+  Bind("mnuEUndo", [this] { m_editor->Undo(); });
+  Bind("mnuERedo", [this] { m_editor->Redo(); });
+  m_ui->mnuERedo->setShortcuts(
+      {QKeySequence(Qt::CTRL | Qt::Key_Y), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)});
   Bind("mnuEDelete", [this] { m_editor->DeleteSelected(); });
   Bind("mnuESelectAll", [this] { m_editor->SelectAll(); });
   Bind("mnuEInvert", [this] { m_editor->InvertSelection(); });
@@ -79,6 +84,7 @@ void frmStart::BindHelpMenu() {
                                        : PathText(m_session.folders.Html() / MapPath(link)));
     });
   }
+  Bind("mnuHShortcuts", [this] { ShowShortcuts(); });
   Bind("mnuHAbout", [this] { ShowAbout(); });
 }
 
@@ -88,6 +94,13 @@ void frmStart::ShowPreferences() {
 
 void frmStart::ShowCompilation() {
   frmBGL(m_session, m_editor->Canvas(), this).exec();
+}
+
+void frmStart::ShowShortcuts() {
+  if (!m_shortcuts) m_shortcuts = new frmShortcuts(*m_ui->menuBar, this);
+  m_shortcuts->show();
+  m_shortcuts->raise();
+  m_shortcuts->activateWindow();
 }
 
 void frmStart::ShowAbout() {

@@ -1,5 +1,6 @@
 // What is enabled and checked in the main window, read from the editor's state each time.
 #include "core/Text.h"
+#include "editor/Modes.h"
 #include "forms/QtText.h"
 #include "forms/StartTables.h"
 #include "forms/frmStart.h"
@@ -25,6 +26,7 @@ void frmStart::RefreshUi() {
   RefreshViewMenu();
   RefreshSelectMenu();
   RefreshModes();
+  m_recovery->ProjectMayBeSaved();
 }
 
 void frmStart::RefreshFileMenu() {
@@ -52,6 +54,8 @@ void frmStart::RefreshEditMenu() {
   const bool open = m_editor->HasProject();
   const Selection& selected = m_session.tool.Selected;
   m_ui->mnuEDelete->setEnabled(open && selected.SelectedCount > 0);
+  m_ui->mnuEUndo->setEnabled(m_editor->CanUndo());
+  m_ui->mnuERedo->setEnabled(m_editor->CanRedo());
   m_ui->mnuEInvert->setEnabled(open);
   m_ui->mnuESnapLOD->setEnabled(open && selected.SelectionActive);
 }
@@ -70,7 +74,13 @@ void frmStart::RefreshViewMenu() {
   m_ui->mnuGrid->setEnabled(open);
   for (const int level : GridLevels)
     Action(QStringLiteral("mnuG%1").arg(level)).setChecked(view.GridLod == level);
-  m_ui->mnuVBitmap->setEnabled(false);
+  const bool mapsHaveViews = open && !view.MapView.empty();
+  m_ui->mnuVBitmap->setEnabled(mapsHaveViews);
+  for (const ViewRow& row : ViewTable) {
+    QAction& item = Action(QLatin1String(row.action));
+    item.setEnabled(mapsHaveViews);
+    item.setChecked(view.MapView == row.view);
+  }
   m_ui->mnuVZoomIn->setEnabled(open);
   m_ui->mnuVZoomOut->setEnabled(open);
 }
@@ -96,7 +106,7 @@ void frmStart::RefreshModes() {
   const bool open = m_editor->HasProject();
   for (const ModeRow& row : ModeTable) {
     QAction& item = Action(QStringLiteral("mnuO") + QLatin1String(row.key));
-    item.setEnabled(open && row.available);
+    item.setEnabled(open && IsOffered(row.mode));
     item.setChecked(open && m_session.tool.Mode == row.mode);
   }
 }

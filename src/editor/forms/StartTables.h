@@ -12,16 +12,13 @@ namespace landsmith {
 struct ModeRow {
   ModeId mode;
   const char* key;
-  bool available;  ///< this version can work with it
 };
 
 inline constexpr std::array ModeTable{
-    ModeRow{ModeId::Pointer, "Pointer", true}, ModeRow{ModeId::Zoom, "Zoom", true},
-    ModeRow{ModeId::Map, "Map", false},        ModeRow{ModeId::Mesh, "Mesh", false},
-    ModeRow{ModeId::Line, "Line", true},       ModeRow{ModeId::Poly, "Poly", false},
-    ModeRow{ModeId::Object, "Object", false},  ModeRow{ModeId::Exclude, "Exclude", false},
-    ModeRow{ModeId::Photo, "Photo", false},    ModeRow{ModeId::Land, "Land", false},
-    ModeRow{ModeId::Water, "Water", false},    ModeRow{ModeId::Fill, "Fill", false},
+    ModeRow{ModeId::Pointer, "Pointer"}, ModeRow{ModeId::Zoom, "Zoom"},       ModeRow{ModeId::Map, "Map"},
+    ModeRow{ModeId::Mesh, "Mesh"},       ModeRow{ModeId::Line, "Line"},       ModeRow{ModeId::Poly, "Poly"},
+    ModeRow{ModeId::Object, "Object"},   ModeRow{ModeId::Exclude, "Exclude"}, ModeRow{ModeId::Photo, "Photo"},
+    ModeRow{ModeId::Land, "Land"},       ModeRow{ModeId::Water, "Water"},     ModeRow{ModeId::Fill, "Fill"},
 };
 
 /// A kind of item. Its items in the View and Select menus are "mnuV" and "mnuS" + key.
@@ -53,6 +50,25 @@ struct ButtonRow {
 inline constexpr std::array ButtonTable{
     ButtonRow{"mnuFNew", "New"},   ButtonRow{"mnuFOpen", "Open"}, ButtonRow{"tbSaveAction", "Save"},
     ButtonRow{"mnuEUndo", "Undo"}, ButtonRow{"mnuFBGL", "BGL"},
+};
+
+/// A bitmap of the maps: its item in the View menu and the exact name of the view.
+struct ViewRow {
+  const char* action;
+  const char* view;
+};
+
+inline constexpr std::array ViewTable{
+    ViewRow{"mnuVSummer", "Summer"}, ViewRow{"mnuVSpring", "Spring"},   ViewRow{"mnuVFall", "Fall"},
+    ViewRow{"mnuVWinter", "Winter"}, ViewRow{"mnuVHard", "HardWinter"}, ViewRow{"mnuVNight", "NightMap"},
+    ViewRow{"mnuVAlpha", "Alpha"},   ViewRow{"mnuVLand", "Land"},       ViewRow{"mnuVMesh", "Mesh"},
+};
+
+/// Menu items with a picture and no button: the action and the picture's name.
+inline constexpr std::array MenuPictures{
+    ButtonRow{"mnuFSave", "Save"}, ButtonRow{"mnuERedo", "Redo"},       ButtonRow{"mnuECut", "Cut"},
+    ButtonRow{"mnuECopy", "Copy"}, ButtonRow{"mnuEPaste", "Paste"},     ButtonRow{"mnuEDelete", "Delete"},
+    ButtonRow{"mnuEFind", "Find"}, ButtonRow{"mnuEMeasure", "Measure"},
 };
 
 /// The levels of the Grid menu, "mnuG" + level.

@@ -3,6 +3,8 @@
 #include "forms/QtText.h"
 
 #include <QFontMetrics>
+#include <QPainter>
+#include <QStyle>
 
 #include <array>
 
@@ -30,7 +32,7 @@ constexpr std::array Panels{
     PanelRow{"sbExtra", "  Custom = 888888888888888", "", &StatusPanels::Extra},
 };
 
-/// Wants the width of its widest text, but gives way: a narrow window stays possible.
+/// Wants the width of its widest text while it has any, but gives way: a narrow window stays possible.
 class Panel final : public QLabel {
 public:
   explicit Panel(const PanelRow& row) : m_widest(QString::fromUtf8(row.widest)) {
@@ -43,11 +45,33 @@ public:
   }
   QSize sizeHint() const override {
     const QFontMetrics metrics(font());
-    return {metrics.horizontalAdvance(m_widest) + 12, metrics.height() + 2};
+    const int width = text().isEmpty() ? 1 : metrics.horizontalAdvance(m_widest) + 12;
+    return {width, metrics.height() + 2};
   }
 
 private:
   QString m_widest;
+};
+
+/// Asks for no room of its own.
+class Hint final : public QLabel {
+public:
+  Hint() {
+    setObjectName(QStringLiteral("sbHint"));
+    setTextFormat(Qt::PlainText);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  }
+  QSize sizeHint() const override { return {0, QFontMetrics(font()).height() + 2}; }
+  QSize minimumSizeHint() const override { return {0, 0}; }
+
+protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    const QRect room = rect().adjusted(4, 0, -4, 0);
+    const QString shown = QFontMetrics(font()).elidedText(text(), Qt::ElideRight, room.width());
+    style()->drawItemText(&painter, room, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(), shown,
+                          QPalette::WindowText);
+  }
 };
 
 }  // namespace
@@ -55,8 +79,17 @@ private:
 StatusPanelBar::StatusPanelBar(QStatusBar& bar) {
   for (const PanelRow& row : Panels) {
     m_panels.push_back(new Panel(row));
-    bar.addWidget(m_panels.back(), &row == &Panels.back() ? 1 : 0);
+    bar.addWidget(m_panels.back());
   }
+  m_hint = new Hint;
+  bar.addWidget(m_hint, 1);
+}
+
+void StatusPanelBar::ShowHint(std::string_view hint) {
+  const QString text = ToQString(hint);
+  if (text == m_hint->text()) return;
+  m_hint->setText(text);
+  m_hint->setToolTip(text);
 }
 
 void StatusPanelBar::Show(const StatusPanels& panels) {

@@ -1,6 +1,7 @@
 #include "forms/frmStart.h"
 
 #include "core/Text.h"
+#include "forms/FocusReturn.h"
 #include "forms/Icons.h"
 #include "forms/QtText.h"
 #include "forms/StartTables.h"
@@ -20,6 +21,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <utility>
 
 namespace landsmith {
 
@@ -59,6 +61,7 @@ frmStart::frmStart(Session& session, QWidget* parent)
 
   m_editor = std::make_unique<Editor>(m_session, *m_ui->canvas, *this);
   m_popups = std::make_unique<PopupMenus>(*m_ui->canvas, *m_editor);
+  m_recovery = std::make_unique<RecoveryKeeper>(m_session);
   NameToolButtons();
   PaintIcons();
   BindFileMenu();
@@ -71,6 +74,7 @@ frmStart::frmStart(Session& session, QWidget* parent)
   RestoreWindow(*this, m_session.folders.AppPath);
   m_ui->canvas->Connect(m_editor.get());
   m_ui->canvas->setFocus();
+  new FocusReturn(*this, *m_ui->canvas);
   connect(m_ui->mnuHelp, &QMenu::aboutToShow, this, &frmStart::RefreshTutorials);
   RefreshTutorials();
   RefreshUi();
@@ -83,6 +87,7 @@ frmStart::~frmStart() {
 
 void frmStart::Start(const std::optional<std::filesystem::path>& project) {
   m_editor->NewProject(true);
+  if (m_recovery->Offer(*m_editor)) return;
   if (project) m_editor->OpenProject(*project);
 }
 
@@ -104,8 +109,8 @@ void frmStart::PaintIcons() {
   for (const ModeRow& row : ModeTable)
     Action(QStringLiteral("mnuO") + QLatin1String(row.key))
         .setIcon(ToolIcon(QLatin1String(row.key), palette));
-  m_ui->mnuFSave->setIcon(ToolIcon(QStringLiteral("Save"), palette));
-  m_ui->mnuERedo->setIcon(ToolIcon(QStringLiteral("Redo"), palette));
+  for (const ButtonRow& row : MenuPictures)
+    Action(QLatin1String(row.action)).setIcon(ToolIcon(QLatin1String(row.key), palette));
 }
 
 void frmStart::FitToolbar() {
@@ -117,7 +122,15 @@ void frmStart::SetStatus(const StatusPanels& panels) {
 }
 
 void frmStart::SetCursor(CursorShape shape) {
-  m_ui->canvas->setCursor(ToQCursor(shape));
+  // The editor says it at every event; drawing the picture each time would be felt.
+  const std::pair<CursorShape, double> wanted(shape, devicePixelRatioF());
+  if (m_cursor == wanted) return;
+  m_cursor = wanted;
+  m_ui->canvas->setCursor(ToQCursor(shape, wanted.second));
+}
+
+void frmStart::SetHint(std::string_view hint) {
+  m_status->ShowHint(hint);
 }
 
 void frmStart::ShowContextMenu(const PopupTarget& target) {
@@ -180,10 +193,12 @@ void frmStart::changeEvent(QEvent* event) {
 
 void frmStart::closeEvent(QCloseEvent* event) {
   // The end of the session is not held up by a question.
-  if (!qApp->isSavingSession() && !m_editor->MayClose()) {
+  const bool noTime = qApp->isSavingSession();
+  if (!noTime && !m_editor->MayClose()) {
     event->ignore();
     return;
   }
+  m_recovery->End(noTime);
   RememberWindow(*this, m_session.folders.AppPath);
   event->accept();
 }

@@ -4,6 +4,7 @@
 
 #include "editor/Editor.h"
 #include "forms/PopupMenus.h"
+#include "forms/RecoveryKeeper.h"
 #include "forms/StatusPanelBar.h"
 
 #include <QHash>
@@ -14,8 +15,10 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <utility>
 
 class QAction;
+class QDialog;
 class QLabel;
 class QTimer;
 
@@ -33,7 +36,8 @@ public:
   explicit frmStart(Session& session, QWidget* parent = nullptr);
   ~frmStart() override;
 
-  /// The first New, then the project that a file manager passed, if any.
+  /// The first New, then what a crash has left, if the user wants it, or else the project that a file
+  /// manager passed, if any.
   void Start(const std::optional<std::filesystem::path>& project);
 
   Editor& TheEditor() { return *m_editor; }
@@ -42,6 +46,7 @@ public:
   void RefreshUi() override;
   void SetStatus(const StatusPanels& panels) override;
   void SetCursor(CursorShape shape) override;
+  void SetHint(std::string_view hint) override;
   void ShowContextMenu(const PopupTarget& target) override;
   void ShowLineProperties(std::optional<std::size_t> line) override;
   bool ShowProjectProperties() override;
@@ -74,6 +79,7 @@ private:
   void BindHelpMenu();
   void ShowPreferences();
   void ShowCompilation();
+  void ShowShortcuts();
   void ShowAbout();
 
   // StartState.cpp: what is enabled and checked
@@ -92,8 +98,11 @@ private:
   std::unique_ptr<StatusPanelBar> m_status;
   std::unique_ptr<Editor> m_editor;
   std::unique_ptr<PopupMenus> m_popups;
+  std::unique_ptr<RecoveryKeeper> m_recovery;
   std::map<TimerId, QTimer*> m_timers;
   QLabel* m_mouseLabel = nullptr;
+  QDialog* m_shortcuts = nullptr;                          ///< made when it is first asked for
+  std::optional<std::pair<CursorShape, double>> m_cursor;  ///< as shown, at its device pixel ratio
 };
 
 }  // namespace landsmith
