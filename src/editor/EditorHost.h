@@ -56,8 +56,6 @@ public:
   virtual void StopTimer(TimerId) {}
   /// The label beside the mouse, its top left corner at `at`; an empty text hides it.
   virtual void ShowHoverLabel(std::string_view /*text*/, PixelPoint /*at*/) {}
-  /// What a click or drag does at this moment, in a few words for the status bar; empty for nothing.
-  virtual void SetHint(std::string_view /*text*/) {}
 };
 
 }  // namespace landsmith

@@ -1,6 +1,5 @@
 // What is enabled and checked in the main window, read from the editor's state each time.
 #include "core/Text.h"
-#include "editor/Modes.h"
 #include "forms/QtText.h"
 #include "forms/StartTables.h"
 #include "forms/frmStart.h"
@@ -106,7 +105,7 @@ void frmStart::RefreshModes() {
   const bool open = m_editor->HasProject();
   for (const ModeRow& row : ModeTable) {
     QAction& item = Action(QStringLiteral("mnuO") + QLatin1String(row.key));
-    item.setEnabled(open && IsOffered(row.mode));
+    item.setEnabled(open);
     item.setChecked(open && m_session.tool.Mode == row.mode);
   }
 }

@@ -1,6 +1,5 @@
 #include "forms/frmShortcuts.h"
 
-#include "editor/Modes.h"
 #include "forms/ShortcutTable.h"
 #include "ui_frmShortcuts.h"
 
@@ -27,7 +26,6 @@ QString Table(const QString& rows) {
 }
 
 QString GroupText(const ShortcutGroup& group) {
-  if (!group.modes.empty() && std::none_of(group.modes.begin(), group.modes.end(), IsOffered)) return {};
   QString rows;
   for (const ShortcutRow& row : group.rows)
     rows += Row(QString::fromUtf8(row.input), QString::fromUtf8(row.effect));
