@@ -49,6 +49,7 @@ public:
   void SetHint(std::string_view hint) override;
   void ShowContextMenu(const PopupTarget& target) override;
   void ShowLineProperties(std::optional<std::size_t> line) override;
+  void ShowPolyProperties(std::optional<std::size_t> poly) override;
   bool ShowProjectProperties() override;
   void ShowPointForm(const PopupTarget& point) override;
   void FollowPoint(const PopupTarget& point) override;
