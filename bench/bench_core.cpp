@@ -18,9 +18,9 @@ constexpr std::int64_t Points = 1000000;
 ProjectState LargeProject(std::int64_t pointsPerLine) {
   ProjectState project;
   project.Name = "Large";
-  project.Lines.resize(static_cast<std::size_t>(Points / pointsPerLine));
   double lon = -9;
-  for (LineRec& line : project.Lines) {
+  for (std::int64_t number = 0; number < Points / pointsPerLine; ++number) {
+    LineRec& line = project.Lines.emplace_back();
     line.Name = "Road";
     line.Type = "VTP//4//road1//";
     for (std::int64_t i = 0; i < pointsPerLine; ++i)

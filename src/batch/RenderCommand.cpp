@@ -1,6 +1,7 @@
 // render: the canvas of the desktop program as a picture, without a window.
 #include "batch/Commands.h"
 #include "editor/Display.h"
+#include "editor/SelectKinds.h"
 #include "editor/Session.h"
 #include "forms/QtSurface.h"
 #include "platform/Paths.h"
@@ -108,7 +109,7 @@ void SetView(Session& session, const RenderArguments& arguments, const RenderOpt
   session.tool.Mode = options.Mode;
 }
 
-/// Base image and overlay as two pictures.
+/// Base image and overlay as two pictures; no tool draws on top.
 class PictureSurfaces final : public CanvasSurfaces {
 public:
   explicit PictureSurfaces(std::pair<int, int> size)
@@ -121,11 +122,13 @@ public:
 
   Surface& Base() override { return m_baseSurface; }
   Surface& Overlay() override { return m_overlaySurface; }
+  Surface& Top() override { return m_overlaySurface; }
   void ClearBase(std::int32_t color) override {
     const ColorParts parts = SplitColor(color);
     m_baseSurface.Clear(QColor(parts.R, parts.G, parts.B));
   }
   void ClearOverlay() override { m_overlaySurface.Clear(QColor(0, 0, 0, 0)); }
+  void ClearTop() override {}
   void Present() override {}
 
   /// Both, one on the other.
@@ -156,6 +159,7 @@ void Render(BatchRun& run, const RenderArguments& arguments) {
   Session session(run.folders, run.dialogs, tools);
   session.settings = run.settings;
   session.project = OpenForCommand(run, arguments.Project);
+  RecountSelection(session.project, session.tool.Selected);
   session.lands = ReadClassTable(MapPathIn(run.folders.Tools(), "lands.txt"), ClassKind::Land);
   session.waters = ReadClassTable(MapPathIn(run.folders.Tools(), "waters.txt"), ClassKind::Water);
   SetView(session, arguments, options);

@@ -14,9 +14,20 @@ constexpr std::uint32_t MaxCellsOfBox = 16;
 /// Up to this part of all boxes, sorting the finds is cheaper than marking them among all.
 constexpr std::size_t FewDivisor = 16;
 
-std::uint32_t SideFor(std::size_t boxes) {
-  const auto side = static_cast<std::uint32_t>(std::sqrt(static_cast<double>(boxes)));
-  return std::clamp<std::uint32_t>(side, 1, MaxSide);
+/// About as many cells as there are boxes, but none smaller than half a usual box: a box over many cells
+/// would stand in the list that every search looks through.
+std::uint32_t SideFor(const std::vector<GeoBox>& boxes, const GeoBox& bounds) {
+  double width = 0, height = 0, counted = 0;
+  for (const GeoBox& box : boxes) {
+    if (!(box.NLat >= box.SLat)) continue;
+    width += box.ELon - box.WLon;
+    height += box.NLat - box.SLat;
+    ++counted;
+  }
+  double side = std::sqrt(static_cast<double>(boxes.size()));
+  if (width > 0) side = std::min(side, 2 * (bounds.ELon - bounds.WLon) * counted / width);
+  if (height > 0) side = std::min(side, 2 * (bounds.NLat - bounds.SLat) * counted / height);
+  return static_cast<std::uint32_t>(std::clamp<double>(side, 1, MaxSide));
 }
 
 std::uint32_t CellAt(double offset, double cellsPerDeg, std::uint32_t side) {
@@ -47,13 +58,14 @@ void SortUnique(std::vector<std::uint32_t>& numbers, std::size_t limit) {
 
 }  // namespace
 
-BoxGrid::BoxGrid(std::vector<GeoBox> boxes) : m_boxes(std::move(boxes)), m_side(SideFor(m_boxes.size())) {
+BoxGrid::BoxGrid(std::vector<GeoBox> boxes) : m_boxes(std::move(boxes)) {
   for (const GeoBox& box : m_boxes) {
     if (box.NLat < box.SLat) continue;  // of an item without points
     m_bounds.Add(box.NLat, box.WLon);
     m_bounds.Add(box.SLat, box.ELon);
   }
   m_frame = m_bounds;
+  m_side = SideFor(m_boxes, m_bounds);
   const double width = m_frame.ELon - m_frame.WLon, height = m_frame.NLat - m_frame.SLat;
   m_columnsPerDeg = width > 0 ? m_side / width : 0;
   m_rowsPerDeg = height > 0 ? m_side / height : 0;

@@ -148,9 +148,18 @@ void Display::PaintEdited(const PaintInput& in) {
   if (m_session.tool.Mode == ModeId::Poly) PaintLayer(LayerKind::Polys, m_surfaces.Overlay(), in);
 }
 
-void Display::PaintOnTop(const PaintInput& in) {
-  DisplayAircraft(m_surfaces.Overlay(), in);
-  if (m_extra) m_extra(m_surfaces.Overlay());
+void Display::PaintTop() {
+  m_surfaces.ClearTop();
+  if (m_extra) m_extra(m_surfaces.Top());
+}
+
+void Display::RedrawTop() {
+  if (m_session.view.BusyPainting) return;
+  {
+    const PaintGuard guard(m_session.view.BusyPainting);
+    PaintTop();
+  }
+  m_surfaces.Present();
 }
 
 void Display::RebuildDisplay(int mask) {
@@ -164,7 +173,8 @@ void Display::RebuildDisplay(int mask) {
       PaintPending(in);
     else if (mask > 0)
       PaintEdited(in);
-    PaintOnTop(in);
+    DisplayAircraft(m_surfaces.Overlay(), in);
+    PaintTop();
   }
   m_surfaces.Present();
 }
@@ -177,9 +187,11 @@ void Display::PaintPending(const PaintInput& in) {
 }
 
 void Display::BeginMoving(MovingItems moving) {
+  if (m_session.view.BusyPainting) return;
   Index();
   m_moving = std::move(moving);
-  RebuildDisplay(LayerMask::All);
+  const PaintGuard guard(m_session.view.BusyPainting);
+  PaintBase(LayerMask::All);
 }
 
 void Display::EndMoving() {
@@ -200,7 +212,8 @@ void Display::PaintOverlay() {
     const PaintGuard guard(view.BusyPainting);
     const PaintInput in = Input(PaintPart::Moving);
     PaintPending(in);
-    PaintOnTop(in);
+    DisplayAircraft(m_surfaces.Overlay(), in);
+    PaintTop();
   }
   m_surfaces.Present();
 }

@@ -1,5 +1,6 @@
-// The canvas as two surfaces: the base image, kept until the next rebuild, and the overlay on top of it,
-// which is cleared and painted anew while something moves.
+// The canvas as surfaces one on the other: the base image, kept until the next rebuild; the overlay, which is
+// cleared and painted anew while something moves; and what the tool at hand draws, rubber lines and boxes,
+// which follows the mouse and must not wait for any of the others.
 #pragma once
 
 #include "editor/GeometryIndex.h"
@@ -16,7 +17,7 @@
 
 namespace landsmith {
 
-/// The two surfaces, supplied by the window or by the batch program. Their size is the view's.
+/// The surfaces, supplied by the window or by the batch program. Their size is the view's.
 class CanvasSurfaces {
 public:
   virtual ~CanvasSurfaces() = default;
@@ -24,7 +25,9 @@ public:
   virtual Surface& Overlay() = 0;
   virtual void ClearBase(std::int32_t color) = 0;
   virtual void ClearOverlay() = 0;  ///< transparent
-  /// Both surfaces are complete and may be shown.
+  virtual Surface& Top() = 0;
+  virtual void ClearTop() = 0;  ///< transparent
+  /// All surfaces are complete and may be shown.
   virtual void Present() = 0;
 };
 
@@ -48,7 +51,7 @@ public:
   void PaintOverlay();
 
   /// From here on the base image holds what stays and the overlay what moves, so that a step of a drag paints
-  /// only the latter with RedrawOverlay; what moves lies on top meanwhile.
+  /// only the latter; what moves lies on top meanwhile. The first RedrawOverlay shows it.
   void BeginMoving(MovingItems moving);
   /// Everything in its place again.
   void EndMoving();
@@ -56,7 +59,9 @@ public:
   /// Where lines and polygons lie at this moment.
   const GeometryIndex& Index();
 
-  /// What the tool at hand paints on top of the overlay: rubber lines and boxes.
+  /// Only what the tool at hand draws has changed.
+  void RedrawTop();
+  /// What the tool at hand paints on top: rubber lines and boxes.
   void SetExtra(std::function<void(Surface&)> paint) { m_extra = std::move(paint); }
 
   CanvasSurfaces& Surfaces() { return m_surfaces; }
@@ -69,7 +74,7 @@ private:
   void PaintBase(int mask);
   void PaintPending(const PaintInput& in);
   void PaintEdited(const PaintInput& in);
-  void PaintOnTop(const PaintInput& in);
+  void PaintTop();
 
   Session& m_session;
   CanvasSurfaces& m_surfaces;

@@ -26,10 +26,10 @@ Edit::~Edit() {
 
 /// An edit that changed nothing in the end leaves nothing to undo and nothing to save.
 void Edit::KeepUndoPoint() {
-  const ProjectState& before = m_before->Project;
-  m_session.project.Dirty = before.Dirty;
-  const bool changed = m_session.project != before;
-  m_session.project.Dirty = changed || m_wasDirty;
+  ProjectState& present = m_session.project;
+  const bool dirty = std::exchange(present.Dirty, m_before->Project.Dirty);
+  const bool changed = present != m_before->Project;
+  present.Dirty = changed ? dirty : m_wasDirty;
   if (!changed || m_undo == UndoPoint::Share || !m_session.settings.BackUpON) return;
   m_session.undo.Take(std::move(*m_before),
                       static_cast<std::size_t>(std::max(m_session.settings.UndoDepth, 1)));

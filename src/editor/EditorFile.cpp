@@ -62,7 +62,6 @@ void Editor::LeaveProject() {
 
 /// The view, the mode and the selection after `m_session.project` has become another one.
 void Editor::ProjectReplaced() {
-  m_session.undo.Reset();
   m_session.tool = ToolState{};
   TakeMode(ModeId::Pointer);
   RecountSelection(m_session.project, m_session.tool.Selected);
@@ -96,10 +95,12 @@ void Editor::NewProject(bool atStart) {
     LeaveProject();
     m_session.settings = settings;
     m_session.project = EmptyProject(m_session.settings);
+    m_session.undo.Reset();
     ProjectReplaced();
     // The canvas stays dead until the user has confirmed the new project.
     if (atStart || !m_host.ShowProjectProperties()) return;
     m_session.project.ProjectOpen = true;
+    m_session.undo.Reset();
     StoreView(m_session.view, m_session.project);  // the dialog may have moved the centre
     ProjectReplaced();
     m_session.view.MapView.clear();
@@ -127,6 +128,7 @@ bool Editor::OpenProject(const std::filesystem::path& path) {
     if (!project) return;
     LeaveProject();
     m_session.project = std::move(*project);
+    m_session.undo.Reset();
     ProjectReplaced();
     opened = true;
     PushRecentFile(m_session.recent, PathText(file), m_session.folders.IniPath());
@@ -175,7 +177,10 @@ void Editor::Append(std::string_view kind) {
     if (!path) return;
     LeaveProject();
     StoreView(m_session.view, m_session.project);
-    importer->Append(*path, m_session.project, m_session.settings);
+    {
+      Edit edit(m_session, m_display, -1);
+      importer->Append(*path, edit.Project(), m_session.settings);
+    }
     ProjectReplaced();
   });
 }

@@ -7,11 +7,15 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <vector>
 
 namespace landsmith {
 
 /// Farther out than any canvas; what lies beyond is cut off or held here before it is rounded.
 inline constexpr double FarPixel = 30000;
+
+/// From this many segments or vertices in view on, a painter is too slow for each single one.
+inline constexpr std::size_t ManyVertices = 4000;
 
 /// Nearest pixel, halves to even. For values within 2^31; inline, since canvases of a million vertices ask it
 /// four million times.
@@ -39,6 +43,19 @@ inline PixelBox CanvasBox(const ViewState& view, const GeoBox& box) {
 /// A box of (2 * reach + 1) pixels a side around a pixel: a point mark.
 inline PixelBox MarkBox(PixelPoint at, std::int32_t reach) {
   return {at.x - reach, at.y - reach, at.x + reach + 1, at.y + reach + 1};
+}
+
+/// The same box as pixels: all of it, or its frame alone. A painter sets up each box anew; a canvas in a
+/// drawing mode may show a million marks.
+inline void AppendMarkSpans(std::vector<PixelSpan>& spans, PixelPoint at, std::int32_t reach, bool filled) {
+  for (std::int32_t y = at.y - reach; y <= at.y + reach; ++y) {
+    if (filled || y == at.y - reach || y == at.y + reach) {
+      spans.push_back({y, at.x - reach, at.x + reach + 1});
+    } else {
+      spans.push_back({y, at.x - reach, at.x - reach + 1});
+      spans.push_back({y, at.x + reach, at.x + reach + 1});
+    }
+  }
 }
 
 inline bool Meets(const ViewState& view, const GeoBox& box) {

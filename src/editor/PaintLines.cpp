@@ -19,8 +19,9 @@ constexpr double LeastJointWidth = 2;
 constexpr double ThinningPixels = 0.5, ThinningHalfWidth = 0.25;
 
 constexpr std::size_t MaxSpans = 16384;
-/// From this many segments on a painter is too slow.
-constexpr std::size_t QuickSegments = 4000;
+
+/// The last vertex has a larger, hollow mark, so that the direction shows.
+constexpr std::int32_t MarkReach = 2, LastMarkReach = 3;
 
 struct StrokeVertex {
   double x = 0, y = 0;
@@ -62,7 +63,7 @@ public:
   }
 
   void PaintMarks(const LineRec& line, std::span<const PathPiece> runs, bool anySelected) {
-    Flush();
+    if (!m_quick) Flush();
     std::size_t next = 0;
     for (const PathPiece& run : runs) {
       for (std::size_t i = std::max<std::size_t>(next, run.first); i <= run.last; ++i)
@@ -163,9 +164,15 @@ private:
     const std::int32_t color = marked ? m_in.settings.PtColorSel : m_in.settings.PtColorUns;
     const PixelPoint at = HeldPixel(ToCanvas(m_in.view, point.Lon, point.Lat));
     const bool last = i + 1 == line.Points.size();
+    const std::int32_t reach = last ? LastMarkReach : MarkReach;
+    if (m_quick) {
+      UseColor(color);
+      AppendMarkSpans(m_spans, at, reach, !last);
+      return;
+    }
     m_surface.SetPen(color);
     m_surface.SetBrush(color, last ? BrushStyle::None : BrushStyle::Solid);
-    m_surface.Box(MarkBox(at, last ? 3 : 2));
+    m_surface.Box(MarkBox(at, reach));
   }
 
   Surface& m_surface;
@@ -187,7 +194,7 @@ std::vector<PathPiece> PiecesInView(const PaintInput& in) {
   std::vector<PathPiece> pieces;
   if (in.part == PaintPart::Moving) {
     for (const std::uint32_t item : in.moving->Lines) {
-      if (!lines[item].Box.Meets(area)) continue;
+      if (lines[item].Points.empty() || !lines[item].Box.Meets(area)) continue;
       pieces.push_back({item, 0, static_cast<std::uint32_t>(lines[item].Points.size() - 1)});
     }
     return pieces;
@@ -209,7 +216,7 @@ void DisplayLines(Surface& surface, const PaintInput& in, std::vector<std::uint8
   std::size_t segments = 0;
   for (const PathPiece& run : runs)
     segments += run.last - run.first;
-  LinePainter painter(surface, in, segments > QuickSegments);
+  LinePainter painter(surface, in, segments > ManyVertices);
   for (std::size_t first = 0, behind = 0; first < runs.size(); first = behind) {
     const std::uint32_t number = runs[first].item;
     while (behind < runs.size() && runs[behind].item == number)

@@ -11,11 +11,13 @@ namespace {
 
 /// Pens and marks reach this far outside their ring.
 constexpr double HiddenMargin = 8;
+constexpr std::int32_t MarkReach = 2;
 
 class PolyPainter {
 public:
-  PolyPainter(Surface& surface, const PaintInput& in)
-      : m_surface(surface), m_in(in), m_frame(FrameOf(in.view, HiddenMargin)) {}
+  /// `quick`: marks go to the surface as pixels, many at a time.
+  PolyPainter(Surface& surface, const PaintInput& in, bool quick)
+      : m_surface(surface), m_in(in), m_quick(quick), m_frame(FrameOf(in.view, HiddenMargin)) {}
 
   void Paint(const PolyRec& poly, bool mayHaveSelection) {
     m_canvas.clear();
@@ -50,15 +52,30 @@ private:
     for (std::size_t i = 0; i < poly.Points.size(); ++i) {
       if (!PointInView(m_in.view, poly.Points[i].Lon, poly.Points[i].Lat)) continue;
       const bool marked = poly.Selected || poly.Points[i].Selected;
-      const std::int32_t color = marked ? m_in.settings.PtColorSel : m_in.settings.PtColorUns;
-      m_surface.SetPen(color);
-      m_surface.SetBrush(color);
-      m_surface.Box(MarkBox(HeldPixel(m_canvas[i]), 2));
+      PaintMark(HeldPixel(m_canvas[i]), marked);
     }
+    for (const bool marked : {false, true}) {
+      auto& spans = m_spans[marked];
+      if (!spans.empty()) m_surface.Spans(spans, MarkColor(marked));
+      spans.clear();
+    }
+  }
+
+  std::int32_t MarkColor(bool marked) const {
+    return marked ? m_in.settings.PtColorSel : m_in.settings.PtColorUns;
+  }
+
+  void PaintMark(PixelPoint at, bool marked) {
+    if (m_quick) return AppendMarkSpans(m_spans[marked], at, MarkReach, true);
+    m_surface.SetPen(MarkColor(marked));
+    m_surface.SetBrush(MarkColor(marked));
+    m_surface.Box(MarkBox(at, MarkReach));
   }
 
   Surface& m_surface;
   const PaintInput& m_in;
+  bool m_quick;
+  std::array<std::vector<PixelSpan>, 2> m_spans;  ///< marks of a polygon: of plain vertices, of selected ones
   CanvasFrame m_frame;
   std::vector<CanvasPoint> m_canvas;
 };
@@ -83,8 +100,12 @@ void DisplayPolys(Surface& surface, const PaintInput& in, std::vector<std::uint8
   const auto& polys = in.project.Polys;
   const bool all = in.part == PaintPart::All;
   if (all) drawn.assign(polys.size(), 0);
-  PolyPainter painter(surface, in);
-  for (const std::uint32_t number : PolysInView(in)) {
+  const std::vector<std::uint32_t> inView = PolysInView(in);
+  std::size_t vertices = 0;
+  for (const std::uint32_t number : inView)
+    vertices += polys[number].Points.size();
+  PolyPainter painter(surface, in, vertices > ManyVertices);
+  for (const std::uint32_t number : inView) {
     const PolyRec& poly = polys[number];
     if (in.settings.HideOtherPolys && poly.Type.starts_with('O')) continue;
     painter.Paint(poly, in.tool.Selected.SelectionActive);

@@ -62,11 +62,11 @@ GoldenLines ReadGoldenLines(std::string_view text) {
     } else if (first == "line") {
       lines.emplace_back().Selected = rest == "selected";
     } else if (first == "name") {
-      lines.back().Name = rest;
+      lines.EditBack().Name = rest;
     } else if (first == "type") {
-      lines.back().Type = rest;
+      lines.EditBack().Type = rest;
     } else {
-      lines.back().Points.push_back(ReadVertex(first, words));
+      lines.EditBack().Points.push_back(ReadVertex(first, words));
     }
   }
   return result;

@@ -155,7 +155,7 @@ TEST(ProjectFile, TakesThePointsThatTheArrayHas) {
     return image.Add(1.0, 2.0, 3.0, 4.0, std::int16_t{0}).Bytes();
   };
   const auto pointsOf = [](const std::string& bytes) {
-    return ReadProject(bytes, "X.LSP").Lines.at(0).Points.size();
+    return ReadProject(bytes, "X.LSP").Lines[0].Points.size();
   };
   EXPECT_EQ(pointsOf(lineWith(5, 1, 2, 2)), 2u);  // whatever the record's counter says
   EXPECT_EQ(pointsOf(lineWith(0, 0, 0, 0)), 0u);  // never allocated: nothing behind

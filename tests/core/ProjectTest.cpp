@@ -12,13 +12,10 @@ namespace {
 namespace fs = std::filesystem;
 
 void SelectAll(ProjectState& project, bool selected) {
-  const auto mark = [&](auto& records) {
-    records.resize(1);
-    records[0].Selected = selected;
-  };
+  const auto mark = [&](auto& records) { records.emplace_back().Selected = selected; };
   mark(project.Maps), mark(project.Lines), mark(project.Polys), mark(project.Fills), mark(project.Excludes);
   mark(project.Photos), mark(project.Meshes), mark(project.Objects);
-  mark(project.Lines[0].Points), mark(project.Polys[0].Points);
+  mark(project.Lines.Edit(0).Points), mark(project.Polys.Edit(0).Points);
   project.Lands.Set(5, 6, selected ? 130 : 2);
   project.NoOfLands = 1;
 }

@@ -48,9 +48,9 @@ TEST_F(DisplayTest, ARepaintWithinARepaintDoesNothing) {
 TEST_F(DisplayTest, AWideSegmentIsAQuadAndItsJointIsFilledFromTheThirdVertexOn) {
   AddLine({{-100, 0}, {0, 0}, {0, 100}});
   const float metres = static_cast<float>(8 / session.view.Scale.PixelsPerMeter);
-  for (LinePoint& point : session.project.Lines[0].Points)
+  for (LinePoint& point : session.project.Lines.Edit(0).Points)
     point.Wid = metres;
-  session.project.Lines[0].Color = 77;
+  session.project.Lines.Edit(0).Color = 77;
   editor.Canvas().DisplayAll();
   const auto quads = canvas.base.Of(Kind::Polygon);
   ASSERT_EQ(quads.size(), 3U);
@@ -65,7 +65,7 @@ TEST_F(DisplayTest, AWideSegmentIsAQuadAndItsJointIsFilledFromTheThirdVertexOn) 
 TEST_F(DisplayTest, AGapInVisibilityLeavesTheJointOut) {
   AddLine({{0, 0}, {500, 0}, {500, 900}, {0, 900}, {0, 250}});
   const float metres = static_cast<float>(8 / session.view.Scale.PixelsPerMeter);
-  for (LinePoint& point : session.project.Lines[0].Points)
+  for (LinePoint& point : session.project.Lines.Edit(0).Points)
     point.Wid = metres;
   editor.Canvas().DisplayAll();
   EXPECT_EQ(BaseLines(), 2U) << "first and last segment, nothing between";
@@ -73,8 +73,8 @@ TEST_F(DisplayTest, AGapInVisibilityLeavesTheJointOut) {
 
 TEST_F(DisplayTest, MarksShowSelectionAndDirection) {
   AddLine({{-100, 0}, {0, 0}, {100, 0}});
-  session.project.Lines[0].Points[1].Selected = true;
-  ++session.Revision;
+  session.project.Lines.Edit(0).Points[1].Selected = true;
+  session.tool.Selected.Add();
   editor.Canvas().DisplayAll();
   const auto marks = canvas.base.Of(Kind::Box);
   ASSERT_EQ(marks.size(), 3U);
@@ -91,7 +91,6 @@ TEST_F(DisplayTest, AMillionPointsWithinOnePixelStillPaintSomething) {
   LineRec line = Line({{0, 0}});
   line.Points.resize(1000, line.Points[0]);
   session.project.Lines.push_back(line);
-  ++session.Revision;
   editor.Canvas().DisplayAll();
   EXPECT_GE(canvas.base.calls.size(), 1U);
   EXPECT_LT(canvas.base.calls.size(), 10U);
@@ -99,10 +98,9 @@ TEST_F(DisplayTest, AMillionPointsWithinOnePixelStillPaintSomething) {
 
 TEST_F(DisplayTest, AtTheHighestZoomFarEndsDoNotOverflow) {
   AddLine({{-30000, 0}, {30000, 0}});
-  session.project.Polys.emplace_back();
-  session.project.Polys[0].Points = {{-170, -80, 0, false}, {170, -80, 0, false}, {0, 85, 0, false}};
-  SetPathBounds(session.project.Polys[0]);
-  ++session.Revision;
+  PolyRec& poly = session.project.Polys.emplace_back();
+  poly.Points = {{-170, -80, 0, false}, {170, -80, 0, false}, {0, 85, 0, false}};
+  SetPathBounds(poly);
   session.view.Zoom = 65536;
   editor.Resize(800, 600);
   const auto shapes = canvas.base.Of(Kind::Polygon);
@@ -123,7 +121,6 @@ TEST_F(DisplayTest, HiddenStretchesOfARingFallAway) {
   }
   SetPathBounds(poly);
   session.project.Polys.push_back(poly);
-  ++session.Revision;
   editor.Canvas().DisplayAll();
   const auto shapes = canvas.base.Of(Kind::Polygon);
   ASSERT_EQ(shapes.size(), 1U);

@@ -43,13 +43,10 @@ public:
     SetPathBounds(line);
     return line;
   }
-  void AddLine(std::initializer_list<PixelOffset> points) {
-    session.project.Lines.push_back(Line(points));
-    ++session.Revision;
-  }
+  void AddLine(std::initializer_list<PixelOffset> points) { session.project.Lines.push_back(Line(points)); }
   /// Where a vertex stands, in pixels from the centre at the rig's first view.
   PixelOffset Place(std::size_t line, std::size_t point) const {
-    const LinePoint& p = session.project.Lines.at(line).Points.at(point);
+    const LinePoint& p = session.project.Lines[line].Points.at(point);
     return {static_cast<float>(p.Lon * session.view.Scale.PixelsPerDegLon),
             static_cast<float>(-p.Lat * session.view.Scale.PixelsPerDegLat)};
   }
@@ -87,7 +84,7 @@ public:
     return *this;
   }
 
-  const std::vector<LineRec>& Lines() const { return session.project.Lines; }
+  const RecordList<LineRec>& Lines() const { return session.project.Lines; }
   std::int32_t Selected() const { return session.tool.Selected.SelectedCount; }
 
   TempFolder folder;

@@ -20,12 +20,12 @@ TEST_F(LineModeTest, OneClickMakesNoLine) {
 
 TEST_F(LineModeTest, TheRubberSegmentFollowsTheMouseWhileDrawing) {
   Click({-100, 0}).MoveTo({60, 20});
-  const auto strokes = canvas.overlay.Of(RecordingSurface::Call::Kind::Polyline);
+  const auto strokes = canvas.top.Of(RecordingSurface::Call::Kind::Polyline);
   ASSERT_EQ(strokes.size(), 1U);
   EXPECT_EQ(strokes[0].points, (std::vector<PixelPoint>{{300, 300}, {460, 320}}));
   Key(27);
   MoveTo({80, 20});
-  EXPECT_TRUE(canvas.overlay.Of(RecordingSurface::Call::Kind::Polyline).empty());
+  EXPECT_TRUE(canvas.top.Of(RecordingSurface::Call::Kind::Polyline).empty());
 }
 
 TEST_F(LineModeTest, ADraggedVertexMovesAloneAndADraggedLineAsAWhole) {
@@ -133,7 +133,6 @@ TEST_F(LineModeTest, AFinishedLineJoinsItsNeighbourWithABeep) {
 TEST_F(LineModeTest, InterruptionsLeaveNothingHalfMade) {
   Click({-100, 0}).Click({0, 0});
   session.project.Lines.clear();  // as a command does
-  ++session.Revision;
   MoveTo({50, 50}).Click({60, 60}).Click({90, 90});
   EXPECT_EQ(Lines().size(), 1U) << "what is left of the figure begins a new one";
   editor.ChooseMode(ModeId::Pointer);

@@ -64,14 +64,14 @@ TEST_F(PointerModeTest, AClickThatHasNotSettledMovesNothing) {
 
 TEST_F(PointerModeTest, ARubberBoxTakesWhatLiesWhollyInside) {
   Press({-150, -30}).MoveTo({150, 59});
-  const auto boxes = canvas.overlay.Of(RecordingSurface::Call::Kind::Box);
+  const auto boxes = canvas.top.Of(RecordingSurface::Call::Kind::Box);
   ASSERT_EQ(boxes.size(), 1U);
   EXPECT_EQ(boxes[0].box, (PixelBox{250, 270, 551, 360}));
   EXPECT_EQ(boxes[0].penStyle, PenStyle::Dot);
   Release();
   EXPECT_TRUE(Lines()[0].Selected);
   EXPECT_FALSE(Lines()[1].Selected);
-  EXPECT_TRUE(canvas.overlay.Of(RecordingSurface::Call::Kind::Box).empty());
+  EXPECT_TRUE(canvas.top.Of(RecordingSurface::Call::Kind::Box).empty());
 }
 
 struct Interruption {
@@ -87,7 +87,6 @@ TEST_P(Interrupted, DragsEndAndLaterMovesDoNothing) {
     ASSERT_TRUE(editor.GestureAlive());
     GetParam().interrupt(*this);
     EXPECT_FALSE(editor.GestureAlive());
-    EXPECT_FALSE(session.tool.Dragging);
     const auto lines = session.project.Lines;
     MoveTo({200, 200}).Release();
     EXPECT_EQ(Lines(), lines);
@@ -133,7 +132,7 @@ TEST_F(PointerModeTest, DeletingAsksOnceAndCountsItems) {
 }
 
 TEST_F(PointerModeTest, TheRightButtonNamesWhatLiesUnderIt) {
-  session.project.Lines[1].Name = "Shore road";
+  session.project.Lines.Edit(1).Name = "Shore road";
   Click({0, 0}, MouseButton::Right);
   Click({50, 60}, MouseButton::Right);
   Click({0, 200}, MouseButton::Right);
@@ -238,8 +237,8 @@ TEST_F(PointerModeTest, ViewAllLeavesTheKindOfTheModeAlone) {
 }
 
 TEST_F(PointerModeTest, SelectAllNeverTakesMapsAndToggles) {
-  session.project.Maps.resize(1);
-  session.project.Fills.resize(2);
+  session.project.Maps.emplace_back();
+  session.project.Fills = {FillRec{}, FillRec{}};
   session.project.Lands.Set(5, 6, 3);
   editor.SelectAll();
   EXPECT_FALSE(session.project.Maps[0].Selected);

@@ -67,8 +67,7 @@ TEST_F(StatusText, NamesTileAndClassOfTheMode) {
 TEST_F(StatusText, ReadsAltitudesFromTheColorOfAMesh) {
   session.view.MapView = "Mesh";
   EXPECT_EQ(Extra(ModeId::Land), "Altitude = n.a.");
-  session.project.Maps.resize(1);
-  session.project.Maps[0].Level[3] = {10, 10, 40, 39, -10, -9};  // its corner is under the mouse
+  session.project.Maps.emplace_back().Level[3] = {10, 10, 40, 39, -10, -9};  // its corner is under the mouse
   struct Row {
     int r, g, b;
     const char *plain, *eightBit;

@@ -21,7 +21,7 @@ protected:
       rig.Click(x, 0);
     rig.Click(90, 60, Qt::RightButton);
   }
-  const LineRec& Road() const { return rig.session.project.Lines.at(0); }
+  const LineRec& Road() const { return rig.session.project.Lines[0]; }
 
   WindowRig rig;
 };

@@ -41,7 +41,7 @@ TEST_F(CompileDialog, OffersWhatIsSelectedAndCanBeCompiled) {
 }
 
 TEST_F(CompileDialog, WithNothingSelectedThereIsNothingToRun) {
-  rig.session.project.Lines[0].Selected = false;
+  rig.session.project.Lines.Edit(0).Selected = false;
   frmBGL dialog(rig.session, rig.display, nullptr);
   EXPECT_FALSE(Find<QWidget>(dialog, "ckVTPLines").isEnabled());
   EXPECT_FALSE(Find<QWidget>(dialog, "cmdCompile").isEnabled());

@@ -18,7 +18,7 @@ protected:
     rig.session.lineTextures = {{12, "na.bmp", "Lane", "", 10, 20, 30},
                                 {13, "na.bmp", "Lit street", "\"a.bmp\" 0 0 0 4", 1, 2, 3}};
   }
-  LineRec& Line(std::size_t i) { return rig.session.project.Lines.at(i); }
+  LineRec& Line(std::size_t i) { return rig.session.project.Lines.Edit(i); }
   void Add(const LineRec& line) { rig.session.project.Lines.push_back(line); }
   std::vector<float> Widths(std::size_t i) { return test::Widths(Line(i)); }
 };

@@ -63,7 +63,7 @@ TEST_F(ProjectDialog, OkOpensTheProjectAndLeavesTheChangedMarkAlone) {
 }
 
 TEST_F(ProjectDialog, CountersComeFromTheProject) {
-  Project().Lines.resize(3);
+  Project().Lines = {LineRec{}, LineRec{}, LineRec{}};
   Project().NoOfLands = 17;  // a counter of its own
   frmProjectP dialog(rig.session, rig.display, nullptr);
   EXPECT_EQ(Find<QLabel>(dialog, "lbLines").text(), "Lines = 3");

@@ -145,9 +145,9 @@ TEST(DisplayLinesPicture, IsTheSameForManyLinesAsForTheirParts) {
   for (auto first = lines.begin(); first != lines.end();) {
     const auto behind = first + std::min(linesOfPart, lines.end() - first);
     ProjectState part;
-    part.Lines.assign(first, behind);
+    for (; first != behind; ++first)
+      part.Lines.push_back(*first);
     roads.PaintOn(parts, part);
-    first = behind;
   }
   EXPECT_NE(whole, Paper(800, 600));
   EXPECT_EQ(CountDifferent(whole, parts), 0);

@@ -59,13 +59,13 @@ TEST(Road, IsDrawnTypedAndCompiled) {
   });
   rig.window->findChild<QAction*>("mnuPUObjectsProperties")->trigger();
   ASSERT_TRUE(properties.Done);
-  const LineRec& road = rig.session.project.Lines[0];
-  EXPECT_EQ(road.Name, "Coast road");
-  EXPECT_EQ(road.Type.substr(0, 8), "VTP//8//");
+  const RecordList<LineRec>& lines = rig.session.project.Lines;
+  EXPECT_EQ(lines[0].Name, "Coast road");
+  EXPECT_EQ(lines[0].Type.substr(0, 8), "VTP//8//");
 
   rig.Button("Pointer").click();
   rig.Click(30, 0);
-  ASSERT_TRUE(road.Selected);
+  ASSERT_TRUE(lines[0].Selected);
   std::string shownSource;
   InDialog compilation("frmBGL", [&](QWidget& form) {
     EXPECT_TRUE(Find<QCheckBox>(form, "ckVTPLines").isChecked());

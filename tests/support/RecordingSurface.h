@@ -75,17 +75,19 @@ private:
 
 class RecordingCanvas final : public CanvasSurfaces {
 public:
-  RecordingSurface base, overlay;
+  RecordingSurface base, overlay, top;
   std::vector<std::int32_t> cleared;  ///< colours of the base image, in turn
   int presented = 0;
 
   Surface& Base() override { return base; }
   Surface& Overlay() override { return overlay; }
+  Surface& Top() override { return top; }
   void ClearBase(std::int32_t color) override {
     cleared.push_back(color);
     base.calls.clear();
   }
   void ClearOverlay() override { overlay.calls.clear(); }
+  void ClearTop() override { top.calls.clear(); }
   void Present() override { ++presented; }
 };
 

@@ -34,7 +34,7 @@ TEST(GridSnap, MovesSelectedVerticesToPoints) {
   ProjectState project;
   project.Lines = {Selected<LineRec>({At(100.3, 50.2), At(254.8, 60.4)}),
                    Selected<LineRec>({At(1.3, 1.3), At(9.3, 9.3)})};
-  project.Lines[1].Selected = false;
+  project.Lines.Edit(1).Selected = false;
   project.Polys = {Selected<PolyRec>({At(10.3, 10.3), At(254.8, 10.3), At(100.4, 99.8)})};
   const LineRec untouched = project.Lines[1];
   const SnapResult result = SnapSelectedToLod21(project);

@@ -44,7 +44,7 @@ TEST(JoinTwoLines, JoinsWhereTheGapIsShorterThanASegmentBesideIt) {
   for (const auto& row : rows) {
     ProjectState project;
     project.Lines = {ALine().Named("other").Through({{0, 10}, {0, 11}}), row.a, row.b};
-    project.Lines[1].Selected = project.Lines[2].Selected = true;
+    project.Lines.Edit(1).Selected = project.Lines.Edit(2).Selected = true;
     const ProjectState before = project;
     Selection selection{2, true, false};
     const std::string message = JoinLines(project, selection);

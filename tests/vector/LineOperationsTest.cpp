@@ -16,16 +16,16 @@ using testing::ElementsAre;
 LineRec EquatorLine(std::size_t vertices) {
   LineRec line;
   for (std::size_t i = 0; i < vertices; ++i)
-    AppendLinePoint(line, {0, static_cast<double>(i)}, 10);
+    AppendPoint(line, {0, static_cast<double>(i)}, 10);
   return line;
 }
 
 TEST(LineDeletion, OfAVertexOfTwoTakesTheLine) {
   ProjectState project;
   project.Lines = {EquatorLine(3), EquatorLine(2)};
-  EXPECT_FALSE(DeleteLinePoint(project, 0, 2));
+  EXPECT_FALSE(DeletePathPoint(project.Lines, 0, 2));
   EXPECT_EQ(project.Lines[0].Box.ELon, 1);
-  EXPECT_TRUE(DeleteLinePoint(project, 0, 0));
+  EXPECT_TRUE(DeletePathPoint(project.Lines, 0, 0));
   EXPECT_EQ(project.Lines.size(), 1U);
 }
 
@@ -33,10 +33,10 @@ TEST(LineDeletion, OfSelectedVerticesKeepsLinesOfTwo) {
   ProjectState project;
   project.Lines = {EquatorLine(4), EquatorLine(4), EquatorLine(2), EquatorLine(1)};
   Selection selection{6, true, false};
-  project.Lines[0].Points[0].Selected = project.Lines[0].Points[3].Selected = true;  // two are left
+  project.Lines.Edit(0).Points[0].Selected = project.Lines.Edit(0).Points[3].Selected = true;  // two are left
   for (std::size_t k : {0U, 1U, 2U})
-    project.Lines[1].Points[k].Selected = true;  // one would be left
-  DeleteSelectedPoints(project, selection);
+    project.Lines.Edit(1).Points[k].Selected = true;  // one would be left
+  DeleteSelectedPathPoints(project.Lines, selection);
   ASSERT_EQ(project.Lines.size(), 3U);
   EXPECT_THAT(Lons(project.Lines[0]), ElementsAre(1, 2));
   EXPECT_EQ(project.Lines[0].Box.WLon, 1);
@@ -48,9 +48,9 @@ TEST(LineDeletion, OfSelectedLinesKeepsOrderAndCount) {
   ProjectState project;
   for (const char* name : {"a", "b", "c", "d"})
     project.Lines.push_back(ALine().Named(name).Through({{0, 0}, {1, 1}}));
-  project.Lines[0].Selected = project.Lines[2].Selected = true;
+  project.Lines.Edit(0).Selected = project.Lines.Edit(2).Selected = true;
   Selection selection{2, true, false};
-  DeleteSelectedLines(project, selection);
+  DeleteSelectedPaths(project.Lines, selection);
   ASSERT_EQ(project.Lines.size(), 2U);
   EXPECT_EQ(project.Lines[0].Name, "b");
   EXPECT_EQ(project.Lines[1].Name, "d");
@@ -60,9 +60,9 @@ TEST(LineDeletion, OfSelectedLinesKeepsOrderAndCount) {
 TEST(LineInsertion, TakesTheMeanWidthAndIsSelected) {
   ProjectState project;
   project.Lines = {EquatorLine(3)};
-  project.Lines[0].Points[1].Wid = 25;
+  project.Lines.Edit(0).Points[1].Wid = 25;
   Selection selection;
-  ASSERT_TRUE(InsertLinePoint(project, {3, 0.5}, 0, 1, selection));
+  ASSERT_TRUE(InsertPathPoint(project.Lines, {3, 0.5}, 0, 1, selection));
   EXPECT_THAT(Lons(project.Lines[0]), ElementsAre(0, 0.5, 1, 2));
   EXPECT_THAT(Widths(project.Lines[0]), ElementsAre(10, 17.5F, 25, 10));
   EXPECT_TRUE(project.Lines[0].Points[1].Selected);
@@ -81,7 +81,7 @@ TEST(LineInsertion, IsRefusedOnlyNearOnBothAxes) {
     ProjectState project;
     project.Lines = {EquatorLine(2)};
     Selection selection;
-    EXPECT_EQ(InsertLinePoint(project, {row.lat, row.lon}, 0, 1, selection), row.accepted)
+    EXPECT_EQ(InsertPathPoint(project.Lines, {row.lat, row.lon}, 0, 1, selection), row.accepted)
         << row.lat << " " << row.lon;
     EXPECT_EQ(selection.SelectedCount, row.accepted ? 1 : 0);
   }
@@ -95,7 +95,7 @@ TEST(LineSplit, BothPartsKeepTheVertex) {
   road.Color = 77;
   road.Points[1].Selected = road.Points[3].Selected = road.Points[5].Selected = true;
   project.Lines = {EquatorLine(6), road};
-  project.Lines[0].Points[1].Selected = true;  // one step from the end: no place to cut
+  project.Lines.Edit(0).Points[1].Selected = true;  // one step from the end: no place to cut
   Selection selection{4, true, false};
 
   ASSERT_TRUE(SplitLine(project, selection));
@@ -119,8 +119,9 @@ TEST(LineWidth, GrowsAndShrinksTheFirstSelectedVertexWithinLimits) {
   ProjectState project;
   project.Lines = {EquatorLine(2), EquatorLine(2)};
   EXPECT_FALSE(GrowLinePoint(project));
-  project.Lines[0].Selected = project.Lines[0].Points[0].Selected = true;  // whole lines do not take part
-  LinePoint& point = project.Lines[1].Points[1];
+  project.Lines.Edit(0).Selected = project.Lines.Edit(0).Points[0].Selected =
+      true;  // whole lines do not take part
+  LinePoint& point = project.Lines.Edit(1).Points[1];
   point.Selected = true;
   struct {
     float before, grown, shrunk;
@@ -163,22 +164,6 @@ TEST(LineToPoly, DropsTheLastVertexOfAClosedLineAlone) {
   EXPECT_EQ(MakePolyFromLine(line).Points.size(), 4U);
 }
 
-TEST(LineMove, TakesWholeLinesAndSelectedVerticesThatAreDrawn) {
-  ProjectState project;
-  project.Lines = {EquatorLine(2), EquatorLine(3), EquatorLine(2)};
-  project.Lines[0].Selected = project.Lines[2].Selected = true;
-  project.Lines[1].Points[2].Selected = true;
-  const std::vector<std::uint8_t> drawn{1, 1, 0};
-  MoveSelectedLines(project, 10, -2, drawn);
-  EXPECT_THAT(Lons(project.Lines[0]), ElementsAre(10, 11));
-  EXPECT_EQ(project.Lines[0].Box, (GeoBox{-2, -2, 10, 11}));
-  EXPECT_THAT(Lons(project.Lines[1]), ElementsAre(0, 1, 12));
-  EXPECT_EQ(project.Lines[1].Box, (GeoBox{0, -2, 0, 12}));
-  EXPECT_THAT(Lons(project.Lines[2]), ElementsAre(0, 1));
-  MoveSelectedLines(project, 10, 0);
-  EXPECT_THAT(Lons(project.Lines[2]), ElementsAre(10, 11));
-}
-
 TEST(LineOrder, MovesARecordAndKeepsTheOthersInOrder) {
   struct {
     DrawingOrder order;
@@ -194,7 +179,7 @@ TEST(LineOrder, MovesARecordAndKeepsTheOthersInOrder) {
     ProjectState project;
     for (const char* name : {"a", "b", "c", "d"})
       project.Lines.push_back(ALine().Named(name).Through({{0, 0}, {1, 1}}));
-    EXPECT_EQ(ChangeLineOrder(project, row.from, row.order), row.to) << row.names;
+    EXPECT_EQ(ChangePathOrder(project.Lines, row.from, row.order), row.to) << row.names;
     std::string names;
     for (const LineRec& line : project.Lines)
       names += line.Name;

@@ -40,9 +40,9 @@ TEST_F(ProjectFiles, ComeBackReadyForWork) {
   line.Box = {5, 4, 3, 6};
   line.Flag = 7;
   project.Lines = {line};
-  project.Fills.resize(1);
-  project.Fills[0].CellX = 384;  // the Cell east of Greenwich
-  project.Fills[0].Size = 2;
+  FillRec& fill = project.Fills.emplace_back();
+  fill.CellX = 384;  // the Cell east of Greenwich
+  fill.Size = 2;
   ObjectRec object;
   object.Type = 2;
   object.Length = 222.66F;

@@ -88,14 +88,19 @@ void CanvasWidget::MakeImages() {
                      std::max(1, static_cast<int>(std::lround(height() * ratio))));
   m_baseSurface.reset();
   m_overlaySurface.reset();
+  m_topSurface.reset();
   m_base = QImage(pixels, QImage::Format_RGB32);
   m_overlay = QImage(pixels, QImage::Format_ARGB32_Premultiplied);
+  m_top = m_overlay;
   m_base.setDevicePixelRatio(ratio);
   m_overlay.setDevicePixelRatio(ratio);
+  m_top.setDevicePixelRatio(ratio);
   m_baseSurface = std::make_unique<QtSurface>(m_base, m_pictures);
   m_overlaySurface = std::make_unique<QtSurface>(m_overlay, m_pictures);
+  m_topSurface = std::make_unique<QtSurface>(m_top, m_pictures);
   ClearBase(CanvasColors{}.Workspace);
   ClearOverlay();
+  ClearTop();
 }
 
 void CanvasWidget::ClearBase(std::int32_t color) {
@@ -106,10 +111,15 @@ void CanvasWidget::ClearOverlay() {
   m_overlaySurface->Clear(Qt::transparent);
 }
 
+void CanvasWidget::ClearTop() {
+  m_topSurface->Clear(Qt::transparent);
+}
+
 void CanvasWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.drawImage(0, 0, m_base);
   painter.drawImage(0, 0, m_overlay);
+  painter.drawImage(0, 0, m_top);
   if (m_base.devicePixelRatio() == devicePixelRatioF()) return;
   // The window was moved to a screen of another resolution.
   QTimer::singleShot(0, this, [this] { resizeEvent(nullptr); });

@@ -1,5 +1,6 @@
-// The canvas: two images, the base and the overlay on top of it, and the translation of the window system's
-// events into the editor's plain ones. It knows nothing of what is drawn or of what an event means.
+// The canvas: three images, the base, the overlay and what the tool draws, one on the other, and the
+// translation of the window system's events into the editor's plain ones. It knows nothing of what is drawn
+// or of what an event means.
 #pragma once
 
 #include "editor/Display.h"
@@ -25,8 +26,10 @@ public:
 
   Surface& Base() override { return *m_baseSurface; }
   Surface& Overlay() override { return *m_overlaySurface; }
+  Surface& Top() override { return *m_topSurface; }
   void ClearBase(std::int32_t color) override;
   void ClearOverlay() override;
+  void ClearTop() override;
   void Present() override { update(); }
 
 protected:
@@ -49,8 +52,8 @@ private:
 
   Editor* m_editor = nullptr;
   std::shared_ptr<PictureCache> m_pictures = std::make_shared<PictureCache>();
-  QImage m_base, m_overlay;
-  std::unique_ptr<QtSurface> m_baseSurface, m_overlaySurface;
+  QImage m_base, m_overlay, m_top;
+  std::unique_ptr<QtSurface> m_baseSurface, m_overlaySurface, m_topSurface;
 };
 
 /// The editor's input for a key of the window system, or nothing for a key that it does not know.

@@ -129,6 +129,7 @@ void frmPreferences::accept() {
   if (!ReadSettings(settings)) return;
   const bool centerChanged = ReadCenter(settings);
   const bool gridChanged = settings.ClassGridVIEW != m_session.settings.ClassGridVIEW;
+  if (settings.BackUpON != m_session.settings.BackUpON) m_session.undo.Reset();
   m_session.settings = settings;
   const bool stored = RunGuarded(m_session.dialogs, [&] {
     // A project keeps its own choice; who changes it here wants to see it in the open one too.

@@ -1,5 +1,5 @@
 #include "support/Builders.h"
-#include "vector/LineSelection.h"
+#include "vector/PathSelection.h"
 
 #include <gtest/gtest.h>
 
@@ -51,47 +51,48 @@ TEST(NearSegmentTest, MeasuresAcrossTheLongerAxis) {
 
 TEST(FindLine, FirstInOrderWins) {
   ProjectState project = TwoRoads();
-  const auto crossing = FindLineAt(project, PixelOf(5, 0), Scale);
+  const auto crossing = FindSegmentAt(project.Lines, WholePieces(project.Lines), PixelOf(5, 0), Scale);
   ASSERT_TRUE(crossing);
   EXPECT_EQ(crossing->item, 0U);
   EXPECT_EQ(crossing->point, 1U);
-  const auto vertex = FindLinePointAt(project, PixelOf(5, 0, 1, 1), Scale);
+  const auto vertex = FindPointAt(project.Lines, WholePieces(project.Lines), PixelOf(5, 0, 1, 1), Scale);
   ASSERT_TRUE(vertex);
   EXPECT_EQ(vertex->item, 1U);
   EXPECT_EQ(vertex->point, 1U);
-  const auto segment = FindLineAt(project, PixelOf(5, 0.5), Scale);
+  const auto segment = FindSegmentAt(project.Lines, WholePieces(project.Lines), PixelOf(5, 0.5), Scale);
   ASSERT_TRUE(segment);
   EXPECT_EQ(segment->item, 1U);
   EXPECT_EQ(segment->point, 2U);
-  EXPECT_FALSE(FindLineAt(project, PixelOf(8, 0.5), Scale));
+  EXPECT_FALSE(FindSegmentAt(project.Lines, WholePieces(project.Lines), PixelOf(8, 0.5), Scale));
 }
 
 TEST(FindLine, OutsideItsBoxIsNotLookedFor) {
   ProjectState project = TwoRoads();
-  project.Lines[0].Box = GeoBox{};
-  EXPECT_FALSE(FindLineAt(project, PixelOf(2, 0), Scale));
-  EXPECT_FALSE(FindLinePointAt(project, PixelOf(0, 0), Scale));
+  project.Lines.Edit(0).Box = GeoBox{};
+  EXPECT_FALSE(FindSegmentAt(project.Lines, WholePieces(project.Lines), PixelOf(2, 0), Scale));
+  EXPECT_FALSE(FindPointAt(project.Lines, WholePieces(project.Lines), PixelOf(0, 0), Scale));
 }
 
 TEST(HitLines, KeepLineAndVertexMarksApart) {
   ProjectState project = TwoRoads();
-  LineRec& road = project.Lines[1];
+  const std::vector<PathPiece> pieces = WholePieces(project.Lines);
+  const LineRec& road = project.Lines[1];
   Selection selection;
 
-  ASSERT_TRUE(HitLinePoint(project, PixelOf(5, 1), Scale, selection));
-  ASSERT_TRUE(HitLinePoint(project, PixelOf(5, 1), Scale, selection)) << "again: counted once";
-  ASSERT_TRUE(HitLinePoint(project, PixelOf(5, -1), Scale, selection));
+  ASSERT_TRUE(HitPoint(project.Lines, pieces, PixelOf(5, 1), Scale, selection));
+  ASSERT_TRUE(HitPoint(project.Lines, pieces, PixelOf(5, 1), Scale, selection)) << "again: counted once";
+  ASSERT_TRUE(HitPoint(project.Lines, pieces, PixelOf(5, -1), Scale, selection));
   EXPECT_TRUE(road.Points[0].Selected && road.Points[2].Selected && !road.Selected);
   EXPECT_EQ(selection.SelectedCount, 2);
 
-  EXPECT_EQ(HitLine(project, PixelOf(5, 0.5), Scale, selection), 1U);
+  EXPECT_EQ(HitPath(project.Lines, pieces, PixelOf(5, 0.5), Scale, selection), 1U);
   EXPECT_TRUE(road.Selected && !road.Points[0].Selected && !road.Points[2].Selected);
   EXPECT_EQ(selection.SelectedCount, 1);
 
-  ASSERT_TRUE(HitLinePoint(project, PixelOf(5, 1), Scale, selection));
+  ASSERT_TRUE(HitPoint(project.Lines, pieces, PixelOf(5, 1), Scale, selection));
   EXPECT_TRUE(road.Points[2].Selected && !road.Selected);
   EXPECT_EQ(selection.SelectedCount, 1) << "the line's place in the count went to the vertex";
-  EXPECT_FALSE(HitLine(project, PixelOf(20, 20), Scale, selection));
+  EXPECT_FALSE(HitPath(project.Lines, pieces, PixelOf(20, 20), Scale, selection));
 }
 
 TEST(SelectLines, BoxMustHoldThemStrictly) {
@@ -107,9 +108,10 @@ TEST(SelectLines, BoxMustHoldThemStrictly) {
   for (const auto& row : rows) {
     ProjectState project;
     project.Lines = {ALine().Through({{-1, 5}, {1, 5}}), LineRec{}};
+    const std::vector<std::uint32_t> everyLine{0, 1};
     Selection selection;
-    SelectLinesInBox(project, row.box, selection);
-    SelectLinesInBox(project, row.box, selection);
+    SelectPathsInBox(project.Lines, everyLine, row.box, selection);
+    SelectPathsInBox(project.Lines, everyLine, row.box, selection);
     EXPECT_EQ(project.Lines[0].Selected, row.selected) << row.name;
     EXPECT_FALSE(project.Lines[1].Selected) << "a line without vertices is nowhere";
     EXPECT_EQ(selection.SelectedCount, row.selected ? 1 : 0) << row.name;
@@ -119,20 +121,20 @@ TEST(SelectLines, BoxMustHoldThemStrictly) {
 TEST(SelectLines, AllAndInvertedKeepTheCount) {
   ProjectState project = TwoRoads();
   project.Lines.push_back(ALine().Through({{7, 7}, {8, 8}}));
-  project.Lines[1].Points[0].Selected = true;
-  project.Lines[2].Selected = true;
+  project.Lines.Edit(1).Points[0].Selected = true;
+  project.Lines.Edit(2).Selected = true;
   Selection selection{2, true, false};
 
-  InvertLineSelection(project, selection);
+  InvertPathSelection(project.Lines, selection);
   EXPECT_TRUE(project.Lines[0].Selected);
   EXPECT_FALSE(project.Lines[1].Selected) << "has a selected vertex";
   EXPECT_FALSE(project.Lines[2].Selected);
   EXPECT_EQ(selection.SelectedCount, 2);
 
-  SelectAllLines(project, true, selection);
+  SelectAllPaths(project.Lines, true, selection);
   EXPECT_EQ(selection.SelectedCount, 3);
   EXPECT_FALSE(project.Lines[1].Points[0].Selected);
-  SelectAllLines(project, false, selection);
+  SelectAllPaths(project.Lines, false, selection);
   EXPECT_EQ(selection, Selection{});
 }
 
