@@ -1,8 +1,10 @@
 // The forms that the editor asks the main window for, and those that stand beside the canvas.
 #include "forms/frmFind.h"
+#include "forms/frmLinesP.h"
 #include "forms/frmMapsP.h"
 #include "forms/frmPoints0P.h"
 #include "forms/frmPointsP.h"
+#include "forms/frmPolysP.h"
 #include "forms/frmStart.h"
 
 namespace landsmith {
@@ -15,7 +17,31 @@ void ShowBeside(QDialog& form) {
   form.show();
 }
 
+/// Shows the properties of one line or polygon, or of all selected ones. The walk that the user may ask for
+/// there begins when the form no longer covers the canvas.
+template <class Form>
+void RunProperties(Form& form, std::optional<std::size_t> item, Editor& editor) {
+  if (item)
+    form.ShowOne(*item);
+  else
+    form.ShowMany();
+  form.exec();
+  if (form.Walk()) editor.StartWalk(*form.Walk());
+}
+
 }  // namespace
+
+void frmStart::ShowLineProperties(std::optional<std::size_t> line) {
+  frmLinesP form(m_session, m_editor->Canvas(), this);
+  RunProperties(form, line, *m_editor);
+  RefreshUi();
+}
+
+void frmStart::ShowPolyProperties(std::optional<std::size_t> poly) {
+  frmPolysP form(m_session, m_editor->Canvas(), this);
+  RunProperties(form, poly, *m_editor);
+  RefreshUi();
+}
 
 /// Search text and last hit stay from one time to the next.
 void frmStart::ShowFind() {

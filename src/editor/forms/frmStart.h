@@ -50,6 +50,7 @@ public:
   void ShowContextMenu(const PopupTarget& target) override;
   void ShowLineProperties(std::optional<std::size_t> line) override;
   void ShowMapProperties(std::size_t map) override;
+  void ShowPolyProperties(std::optional<std::size_t> poly) override;
   bool ShowProjectProperties() override;
   void ShowPointForm(const PopupTarget& point) override;
   void FollowPoint(const PopupTarget& point) override;
