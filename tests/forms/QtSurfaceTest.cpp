@@ -144,6 +144,82 @@ TEST_F(QtSurfaceTest, APictureIsShownAsItsFileIsNow) {
   std::filesystem::last_write_time(file, std::filesystem::last_write_time(file) + std::chrono::seconds(2));
   surface.Image(file, {0, 0, 0, 0});
   EXPECT_EQ(Row(0, 4), "gg..");
+
+  // Another size within the clock's tick is another file too.
+  const auto written = std::filesystem::last_write_time(file);
+  green.scaled(3, 1).save(QString::fromStdString(file.string()));
+  std::filesystem::last_write_time(file, written);
+  surface.Image(file, {0, 0, 0, 0});
+  EXPECT_EQ(Row(0, 4), "ggg.");
+}
+
+TEST_F(QtSurfaceTest, APartOfAPictureGoesWhereItBelongs) {
+  const test::TempFolder folder;
+  const std::filesystem::path file = RedAndBlue(folder);
+  struct PartRow {
+    const char* name;
+    PixelBox source;
+    FloatBox target;
+    const char* row;
+  };
+  for (const PartRow& part : {PartRow{"whole", {0, 0, 2, 1}, {1, 0, 4, 2}, ".rrbb..."},
+                              PartRow{"second pixel", {1, 0, 2, 1}, {1, 0, 4, 2}, ".bbbb..."},
+                              PartRow{"beyond the picture", {1, 0, 4, 1}, {-1, 0, 9, 2}, "bb......"},
+                              PartRow{"a picture that begins later", {-1, 0, 2, 1}, {0, 0, 6, 2}, "..rrbb.."},
+                              PartRow{"middles of pixels count", {0, 0, 2, 1}, {0.4F, 0, 3, 2}, "rrb....."},
+                              PartRow{"nothing of it", {2, 0, 4, 1}, {0, 0, 4, 2}, "........"}}) {
+    surface.Clear(Qt::white);
+    surface.ImagePart(file, part.source, part.target, PictureQuality::Smooth);
+    EXPECT_EQ(Row(0, 8), part.row) << part.name;
+  }
+}
+
+// Columns of red and blue in turn, of 8 and of 24 bits, so large that the 8 stay 8.
+TEST_F(QtSurfaceTest, SmallerPicturesAreMeansOrExact) {
+  const test::TempFolder folder;
+  for (const QImage::Format format : {QImage::Format_RGB32, QImage::Format_Indexed8}) {
+    QImage picture(1601, 1001, QImage::Format_RGB32);
+    for (int y = 0; y < picture.height(); ++y)
+      for (int x = 0; x < picture.width(); ++x)
+        picture.setPixel(x, y, x % 2 == 0 ? qRgb(255, 0, 0) : qRgb(0, 0, 255));
+    const std::filesystem::path file = folder / ("stripes" + std::to_string(format) + ".bmp");
+    picture.convertToFormat(format).save(QString::fromStdString(file.string()));
+    surface.Clear(Qt::white);
+    surface.ImagePart(file, {0, 0, 1600, 1000}, {2, 2, 32, 20}, PictureQuality::Exact);
+    // The middle of pixel k lies in column 25 + 50 k, a blue one.
+    EXPECT_EQ(Row(10, 36), ".." + std::string(32, 'b') + "..") << format;
+    surface.ImagePart(file, {0, 0, 1600, 1000}, {2, 2, 32, 20}, PictureQuality::Smooth);
+    for (const PixelPoint at : {PixelPoint{3, 3}, PixelPoint{18, 12}, PixelPoint{32, 20}}) {
+      const ColorParts mean = SplitColor(surface.Pixel(at));
+      EXPECT_NEAR(mean.R, 128, 1) << format;
+      EXPECT_EQ(mean.G, 0) << format;
+      EXPECT_NEAR(mean.B, 128, 1) << format;
+    }
+    EXPECT_EQ(surface.Pixel({1, 12}), White);
+    EXPECT_EQ(surface.Pixel({35, 12}), White);
+  }
+}
+
+TEST_F(QtSurfaceTest, TransparentPixelsLetThroughAndHaveNoColour) {
+  const test::TempFolder folder;
+  QImage picture(2, 1, QImage::Format_ARGB32);
+  picture.fill(Qt::transparent);
+  picture.setPixelColor(0, 0, Qt::red);
+  const std::filesystem::path file = folder / "half.png";
+  picture.save(QString::fromStdString(file.string()));
+  surface.ImagePart(file, {0, 0, 2, 1}, {0, 0, 4, 4}, PictureQuality::Exact);
+  EXPECT_EQ(Row(0, 6), "rr....");
+  surface.ReplaceColor(Red, Blue);
+  EXPECT_EQ(Row(0, 6), "bb....");
+
+  QImage overlay(2, 1, QImage::Format_ARGB32_Premultiplied);
+  QtSurface on(overlay);
+  on.Clear(Qt::transparent);
+  on.SetPen(0, 1, PenStyle::Solid);
+  on.Box({0, 0, 1, 1});
+  on.ReplaceColor(0, Green);
+  EXPECT_EQ(overlay.pixel(0, 0), qRgb(0, 255, 0));
+  EXPECT_EQ(overlay.pixel(1, 0), 0U);
 }
 
 TEST(QtSurfaceScaled, DrawsLogicalPixelsAsBlocks) {
