@@ -1,5 +1,6 @@
 // New, open, save, append, exit.
 #include "core/RecentFiles.h"
+#include "editor/ChooseFile.h"
 #include "editor/Editor.h"
 #include "editor/MapView.h"
 #include "editor/Modes.h"
@@ -17,21 +18,6 @@ namespace {
 
 constexpr std::string_view ProjectFilter = "Landsmith (*.LSP)|*.LSP";
 constexpr std::size_t LeastFileName = 5;  ///< a shorter ProjectFile is no file name
-
-/// Asks for a file in the folder that this dialog was last used in, and remembers the one chosen.
-std::optional<std::filesystem::path> ChooseToOpen(Session& session, std::string_view filter,
-                                                  std::string_view title, std::string AppSettings::*slot) {
-  FileRequest request;
-  request.Title = title;
-  request.Filter = std::string(filter) + "|All Files|*.*";
-  if (!(session.settings.*slot).empty()) request.Folder = MapPath(session.settings.*slot);
-  auto path = session.dialogs.ChooseFileToOpen(request);
-  if (path) {
-    session.settings.*slot = PathText(path->parent_path());
-    SaveRecentFolders(session.folders.IniPath(), session.settings);
-  }
-  return path;
-}
 
 std::optional<std::filesystem::path> ChooseToSave(Session& session) {
   FileRequest request;

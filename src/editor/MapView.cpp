@@ -6,7 +6,7 @@
 #include "platform/Paths.h"
 
 #include <algorithm>
-#include <cmath>
+#include <exception>
 
 namespace landsmith {
 
@@ -30,6 +30,12 @@ void LoadPictures(Session& session, CanvasSurfaces& surfaces, const MapViewRow& 
     session.view.Pictures.Files[i] = file;
     TakeLevel(maps, i, view.Level);
   }
+}
+
+void MarkAltitude(Session& session, const MapViewRow& view) {
+  const float altitude = session.settings.Altitude2Change;
+  if (view.Name == MeshView && altitude > 0)
+    session.view.Pictures.ChangeColorFrom = ColorOfAltitude(altitude, session.settings.Mesh8);
 }
 
 }  // namespace
@@ -63,15 +69,17 @@ std::int32_t ColorOfAltitude(float altitude, bool mesh8) {
 void LoadMapView(Session& session, CanvasSurfaces& surfaces) {
   MapPictures& pictures = session.view.Pictures;
   pictures.ChangeColorFrom.reset();
-  const MapViewRow* view = FindMapView(session.view.MapView);
-  if (view == nullptr) return surfaces.KeepPictures(pictures.Files);
-  // Pictures are known by the place of their map: of another list of maps none is right.
-  if (pictures.Files.size() != session.project.Maps.size()) pictures.Files.clear();
-  pictures.Files.resize(session.project.Maps.size());
-  const float marked = session.settings.Altitude2Change;
-  if (view->Name == MeshView && marked > 0)
-    pictures.ChangeColorFrom = ColorOfAltitude(marked, session.settings.Mesh8);
-  LoadPictures(session, surfaces, *view);
+  if (const MapViewRow* view = FindMapView(session.view.MapView)) {
+    // Pictures are known by the place of their map: of another list of maps none is right.
+    if (pictures.Files.size() != session.project.Maps.size()) pictures.Files.clear();
+    pictures.Files.resize(session.project.Maps.size());
+    try {
+      MarkAltitude(session, *view);
+      LoadPictures(session, surfaces, *view);
+    } catch (const std::exception&) {
+      // As for a missing picture: the rest stays as it was, and the work goes on.
+    }
+  }
   surfaces.KeepPictures(pictures.Files);
 }
 

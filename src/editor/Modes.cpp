@@ -2,6 +2,7 @@
 
 #include "editor/ExcludeMode.h"
 #include "editor/Gestures.h"
+#include "editor/MapMode.h"
 #include "editor/MenuMode.h"
 #include "editor/ObjectMode.h"
 #include "editor/PathMode.h"
@@ -84,7 +85,7 @@ std::unique_ptr<ToolMode> MakeMode(ModeId mode, ModeContext& context) {
     case ModeId::Zoom:
       return std::make_unique<ZoomMode>(context);
     case ModeId::Map:
-      return std::make_unique<MenuMode>(context, CursorShape::Map);
+      return std::make_unique<MapMode>(context);
     case ModeId::Mesh:
       return std::make_unique<MenuMode>(context, CursorShape::Mesh);
     case ModeId::Line:

@@ -22,7 +22,9 @@ bool FocusReturn::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void FocusReturn::Return() {
-  if (QApplication::activeModalWidget() || QApplication::activePopupWidget()) return;
+  // Another window may have been opened since.
+  const QWidget* active = QApplication::activeWindow();
+  if ((active && active != &m_window) || QApplication::activePopupWidget()) return;
   m_window.activateWindow();
   m_home.setFocus();
 }

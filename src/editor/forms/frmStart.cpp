@@ -60,7 +60,7 @@ frmStart::frmStart(Session& session, QWidget* parent)
 
   m_editor = std::make_unique<Editor>(m_session, *m_ui->canvas, *this);
   m_popups = std::make_unique<PopupMenus>(*m_ui->canvas, *m_editor);
-  m_recovery = std::make_unique<RecoveryKeeper>(m_session);
+  m_recovery = std::make_unique<RecoveryKeeper>(m_session, this);
   NameToolButtons();
   PaintIcons();
   BindFileMenu();
