@@ -7,9 +7,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <compare>
 #include <optional>
 #include <string_view>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -50,7 +50,9 @@ private:
     double Row = 0;
     double Lon = 0;
     std::size_t Vertex = 0;
-    auto operator<=>(const Place&) const = default;
+    bool operator<(const Place& other) const {
+      return std::tie(Row, Lon, Vertex) < std::tie(other.Row, other.Lon, other.Vertex);
+    }
   };
   double RowOf(const PolyPoint& point) const { return std::floor(point.Lat / m_reach.Lat); }
 
