@@ -32,9 +32,11 @@ void PointForm::ShowPoint(const PopupTarget& target) {
 void PointForm::ShowValues() {
   const VertexRef& vertex = m_point->Vertex();
   const bool line = vertex.Kind == PathKind::Line;
-  m_controls.Title->setText(ToQString(PathTitle(m_session.project, vertex.Kind, vertex.Item)));
+  const QString title = ToQString(PathTitle(m_session.project, vertex.Kind, vertex.Item));
+  m_controls.Title->setText(title);
+  m_controls.Title->setToolTip(title.toHtmlEscaped());  // a long name is cut off
   m_controls.Point->setText(tr("PT # %1").arg(vertex.Point + 1));
-  m_controls.Third->setText(line ? tr("&Width") : tr("&Altitude"));
+  m_controls.Third->setText(line ? tr("&Width (m):") : tr("Al&titude (m):"));
   m_shownThird = ToQString(NumberText(Shown().Third));
   m_controls.Width->setText(m_shownThird);
   ShowPosition(Shown().At);
