@@ -8,6 +8,7 @@
 #include "editor/Find.h"
 #include "editor/HoverLabel.h"
 #include "editor/ModeContext.h"
+#include "editor/PointEdit.h"
 #include "editor/Session.h"
 #include "editor/StatusText.h"
 #include "editor/ToolMode.h"
@@ -98,6 +99,8 @@ public:
   void StartWalk(const PopupTarget& point, WalkView view = WalkView::Centre);
   /// One step of a walk from this vertex, for the buttons of a form.
   void Walk(const PopupTarget& from, WalkStep step);
+  /// Stores a vertex that exists as one change. False when it failed.
+  bool ChangePoint(const VertexRef& vertex, const PointValues& values);
   /// Selects what is found alone, shows its kind and goes there with a beep, or says that nothing was found.
   /// `lastHit` as in FindItems.
   void Find(const FindRequest& request, FindScope scope, std::size_t& lastHit);

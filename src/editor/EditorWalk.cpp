@@ -1,6 +1,5 @@
 // Going from item to item: the walk along vertices, and the search.
 #include "editor/Editor.h"
-#include "editor/PointEdit.h"
 #include "editor/SelectKinds.h"
 #include "editor/Walker.h"
 
@@ -76,6 +75,16 @@ void Editor::DeleteWalked() {
   if (tool.Selected.SelectedCount >= 1) DeleteSelected();
   if (tool.Walk && VertexExists(project, *tool.Walk)) Guard([&] { WalkTo(*tool.Walk, WalkView::Centre); });
   m_host.RefreshUi();
+}
+
+bool Editor::ChangePoint(const VertexRef& vertex, const PointValues& values) {
+  EndGesture();
+  const bool changed = Guard([&] {
+    Edit edit(m_session, m_display);
+    StorePoint(edit.Project(), vertex, values);
+  });
+  m_host.RefreshUi();
+  return changed;
 }
 
 void Editor::Find(const FindRequest& request, FindScope scope, std::size_t& lastHit) {

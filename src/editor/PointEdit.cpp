@@ -11,6 +11,11 @@ std::string PathTitle(const ProjectState& project, PathKind kind, std::size_t it
   });
 }
 
+std::string PointTitle(const ProjectState& project, const VertexRef& vertex) {
+  return "POINT # " + std::to_string(vertex.Point + 1) + " from " +
+         PathTitle(project, vertex.Kind, vertex.Item);
+}
+
 std::optional<PointValues> ReadPoint(const ProjectState& project, const VertexRef& vertex) {
   return WithPaths(project, vertex.Kind,
                    [&]<class Path>(const RecordList<Path>& paths) -> std::optional<PointValues> {

@@ -7,9 +7,13 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <type_traits>
 #include <utility>
 
 namespace landsmith {
+
+template <class Path>
+inline constexpr PathKind KindOfPath = std::is_same_v<Path, LineRec> ? PathKind::Line : PathKind::Poly;
 
 /// Calls `use` with the lines or the polygons of a project, which may be constant.
 template <class Project, class Use>
@@ -20,6 +24,8 @@ decltype(auto) WithPaths(Project& project, PathKind kind, Use&& use) {
 
 /// "Coast road  LINE # 3", or "POLY # 3" without a name.
 std::string PathTitle(const ProjectState& project, PathKind kind, std::size_t item);
+/// "POINT # 2 from Coast road  LINE # 3"
+std::string PointTitle(const ProjectState& project, const VertexRef& vertex);
 
 struct PointValues {
   LatLon At;

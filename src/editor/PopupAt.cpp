@@ -2,6 +2,7 @@
 
 #include "core/Text.h"
 #include "editor/Picking.h"
+#include "editor/PointEdit.h"
 
 #include <array>
 #include <functional>
@@ -100,16 +101,6 @@ std::string Numbered(const char* word, std::size_t item) {
   return word + std::to_string(item + 1);
 }
 
-template <class Path>
-std::string PathTitle(const RecordList<Path>& paths, const char* word, std::size_t item) {
-  const std::string& name = paths[item].Name;
-  return name.empty() ? Numbered(word, item) : name + "  " + Numbered(word, item);
-}
-
-constexpr const char* LineWord = "LINE # ";
-constexpr const char* PolyWord = "POLY # ";
-constexpr const char* PointWord = "POINT # ";
-
 /// Fills in a target, kind after kind.
 class Finder {
 public:
@@ -124,14 +115,10 @@ public:
         m_place(ToLatLon(view, target.At)) {}
 
   bool Find() {
-    return (Tries(LayerKind::Lines, ModeId::Line) &&
-            TakePoint("PtInLine", LineWord, m_project.Lines, m_index.Lines)) ||
-           (Tries(LayerKind::Polys, ModeId::Poly) &&
-            TakePoint("PtInPoly", PolyWord, m_project.Polys, m_index.Polys)) ||
-           (Tries(LayerKind::Lines, ModeId::Line) &&
-            TakePath("Line", LineWord, m_project.Lines, m_index.Lines)) ||
-           (Tries(LayerKind::Polys, ModeId::Poly) &&
-            TakePath("Poly", PolyWord, m_project.Polys, m_index.Polys)) ||
+    return (Tries(LayerKind::Lines, ModeId::Line) && TakePoint("PtInLine", m_project.Lines, m_index.Lines)) ||
+           (Tries(LayerKind::Polys, ModeId::Poly) && TakePoint("PtInPoly", m_project.Polys, m_index.Polys)) ||
+           (Tries(LayerKind::Lines, ModeId::Line) && TakePath("Line", m_project.Lines, m_index.Lines)) ||
+           (Tries(LayerKind::Polys, ModeId::Poly) && TakePath("Poly", m_project.Polys, m_index.Polys)) ||
            FindObject() || FindTile() || FindMap();
   }
 
@@ -149,21 +136,23 @@ private:
   }
 
   template <class Path>
-  bool TakePoint(const char* kind, const char* word, const RecordList<Path>& paths,
-                 const PathIndex<Path>& index) {
+  bool TakePoint(const char* kind, const RecordList<Path>& paths, const PathIndex<Path>& index) {
     const auto hit = FindPointUnder(paths, index, m_at, m_view.Scale);
-    if (!hit || !Take(kind, word, hit->item)) return false;
+    if (!hit) return false;
+    m_target.Kind = kind;
+    m_target.Item = hit->item;
     m_target.Point = hit->point;
-    m_target.Title = Numbered(PointWord, hit->point) + " from " + PathTitle(paths, word, hit->item);
+    m_target.Title = PointTitle(m_project, {KindOfPath<Path>, hit->item, hit->point});
     return true;
   }
 
   template <class Path>
-  bool TakePath(const char* kind, const char* word, const RecordList<Path>& paths,
-                const PathIndex<Path>& index) {
+  bool TakePath(const char* kind, const RecordList<Path>& paths, const PathIndex<Path>& index) {
     const auto hit = FindSegmentUnder(paths, index, m_at, m_view.Scale);
-    if (!hit || !Take(kind, word, hit->item)) return false;
-    m_target.Title = PathTitle(paths, word, hit->item);
+    if (!hit) return false;
+    m_target.Kind = kind;
+    m_target.Item = hit->item;
+    m_target.Title = PathTitle(m_project, KindOfPath<Path>, hit->item);
     return true;
   }
 

@@ -27,6 +27,12 @@ struct LineDefaults {
   float FirstWidth = 35, LastWidth = 35;
 };
 
+/// The same for polygons, edited by `frmPolysP`.
+struct PolyDefaults {
+  std::string Type;
+  std::int32_t Color = 255;
+};
+
 struct Session {
   Session(ProgramFolders programFolders, Dialogs& itsDialogs, ToolRunner& itsTools)
       : folders(std::move(programFolders)), dialogs(itsDialogs), tools(itsTools) {}
@@ -45,6 +51,7 @@ struct Session {
   TextureCatalog lineTextures, polyTextures;
   std::size_t currentLineTexture = 0, currentPolyTexture = 0;  ///< 0-based place in the catalogue
   LineDefaults rgnLines;
+  PolyDefaults rgnPolys;
 
   UndoRing undo;
   Clipboard clipboard;

@@ -92,8 +92,7 @@ PopupTarget TargetOf(const ProjectState& project, const VertexRef& vertex) {
   target.Kind = vertex.Kind == PathKind::Line ? "PtInLine" : "PtInPoly";
   target.Item = vertex.Item;
   target.Point = vertex.Point;
-  target.Title =
-      "POINT # " + std::to_string(vertex.Point + 1) + " from " + PathTitle(project, vertex.Kind, vertex.Item);
+  target.Title = PointTitle(project, vertex);
   return target;
 }
 

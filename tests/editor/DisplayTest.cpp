@@ -88,7 +88,7 @@ TEST_F(DisplayTest, MarksShowSelectionAndDirection) {
 }
 
 TEST_F(DisplayTest, AMillionPointsWithinOnePixelStillPaintSomething) {
-  LineRec line = Line({{0, 0}});
+  LineRec line = Figure<LineRec>({{0, 0}});
   line.Points.resize(1000, line.Points[0]);
   session.project.Lines.push_back(line);
   editor.Canvas().DisplayAll();

@@ -34,21 +34,59 @@ public:
   LatLon At(double x, double y) const {
     return {-y / session.view.Scale.PixelsPerDegLat, x / session.view.Scale.PixelsPerDegLon};
   }
-  LineRec Line(std::initializer_list<PixelOffset> points) const {
-    LineRec line;
+  template <class Path>
+  Path Figure(std::initializer_list<PixelOffset> points) const {
+    Path path;
     for (const PixelOffset& at : points) {
       const LatLon place = At(at.x, at.y);
-      line.Points.push_back({place.lon, place.lat, 10, false});
+      path.Points.push_back({place.lon, place.lat, 10, false});
     }
-    SetPathBounds(line);
-    return line;
+    SetPathBounds(path);
+    return path;
   }
-  void AddLine(std::initializer_list<PixelOffset> points) { session.project.Lines.push_back(Line(points)); }
-  /// Where a vertex stands, in pixels from the centre at the rig's first view.
+  void AddLine(std::initializer_list<PixelOffset> points) {
+    session.project.Lines.push_back(Figure<LineRec>(points));
+  }
+  void AddPoly(std::initializer_list<PixelOffset> points) {
+    session.project.Polys.push_back(Figure<PolyRec>(points));
+  }
+  GeoBox Box(PixelOffset northWest, PixelOffset southEast) const {
+    const LatLon first = At(northWest.x, northWest.y), last = At(southEast.x, southEast.y);
+    return {first.lat, last.lat, first.lon, last.lon};
+  }
+  void AddMap(PixelOffset northWest, PixelOffset southEast) {
+    const GeoBox box = Box(northWest, southEast);
+    MapRec map;
+    map.Name = "Sheet";
+    map.Level[0] = map.Level[1] = {10, 10, box.NLat, box.SLat, box.WLon, box.ELon};
+    session.project.Maps.push_back(map);
+  }
+  void AddExclude(PixelOffset northWest, PixelOffset southEast) {
+    ExcludeRec exclude;
+    exclude.Box = Box(northWest, southEast);
+    session.project.Excludes.push_back(exclude);
+  }
+  /// Its footprint is a square that stands on a corner, `reach` pixels from the centre.
+  void AddObject(PixelOffset at, float reach) {
+    ObjectRec object;
+    object.Description = "0A|1|Tower";
+    const LatLon place = At(at.x, at.y);
+    object.Lat = place.lat;
+    object.Lon = place.lon;
+    const auto metres = static_cast<float>(reach / session.view.Scale.PixelsPerMeter);
+    object.X1 = object.Y2 = metres;
+    object.X3 = object.Y4 = -metres;
+    object.Box = Box({at.x - reach, at.y - reach}, {at.x + reach, at.y + reach});
+    session.project.Objects.push_back(object);
+  }
+  /// In pixels from the centre at the rig's first view.
+  PixelOffset PixelOf(LatLon at) const {
+    return {static_cast<float>(at.lon * session.view.Scale.PixelsPerDegLon),
+            static_cast<float>(-at.lat * session.view.Scale.PixelsPerDegLat)};
+  }
   PixelOffset Place(std::size_t line, std::size_t point) const {
     const LinePoint& p = session.project.Lines[line].Points.at(point);
-    return {static_cast<float>(p.Lon * session.view.Scale.PixelsPerDegLon),
-            static_cast<float>(-p.Lat * session.view.Scale.PixelsPerDegLat)};
+    return PixelOf({p.Lat, p.Lon});
   }
 
   PointerInput Pointer(PixelOffset at, MouseButton button) const {
@@ -81,6 +119,10 @@ public:
   }
   EditorRig& Key(int code) {
     editor.KeyDown({code, shift, ctrl, false});
+    return *this;
+  }
+  EditorRig& KeyUp(int code) {
+    editor.KeyUp({code, shift, ctrl, false});
     return *this;
   }
 

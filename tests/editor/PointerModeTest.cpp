@@ -74,43 +74,6 @@ TEST_F(PointerModeTest, ARubberBoxTakesWhatLiesWhollyInside) {
   EXPECT_TRUE(canvas.top.Of(RecordingSurface::Call::Kind::Box).empty());
 }
 
-struct Interruption {
-  const char* name;
-  void (*interrupt)(EditorRig&);
-};
-class Interrupted : public testing::TestWithParam<Interruption>, public EditorRig {};
-TEST_P(Interrupted, DragsEndAndLaterMovesDoNothing) {
-  for (const PixelOffset from : {PixelOffset{0, 0}, PixelOffset{0, 100}}) {  // a move, a rubber box
-    AddLine({{-100, 0}, {100, 0}});
-    editor.Canvas().DisplayAll();
-    Press(from).MoveTo({0, 120});
-    ASSERT_TRUE(editor.GestureAlive());
-    GetParam().interrupt(*this);
-    EXPECT_FALSE(editor.GestureAlive());
-    const auto lines = session.project.Lines;
-    MoveTo({200, 200}).Release();
-    EXPECT_EQ(Lines(), lines);
-    session.project.ProjectOpen = true;
-    session.project.Lines.clear();
-    editor.ChooseMode(ModeId::Pointer);
-  }
-}
-INSTANTIATE_TEST_SUITE_P(
-    By, Interrupted,
-    testing::Values(Interruption{"mode_change", [](EditorRig& rig) { rig.editor.ChooseMode(ModeId::Zoom); }},
-                    Interruption{"right_click",
-                                 [](EditorRig& rig) {
-                                   rig.Press({0, 0}, MouseButton::Right);
-                                 }},
-                    Interruption{"focus_loss", [](EditorRig& rig) { rig.editor.FocusLost(); }},
-                    Interruption{"select_all", [](EditorRig& rig) { rig.editor.SelectAll(); }},
-                    Interruption{"new_project",
-                                 [](EditorRig& rig) {
-                                   rig.dialogs.answers = {true};
-                                   rig.editor.NewProject();
-                                 }}),
-    [](const auto& row) { return row.param.name; });
-
 TEST_F(PointerModeTest, DeletingAsksOnceAndCountsItems) {
   Click({0, 0});
   shift = true;
@@ -131,47 +94,11 @@ TEST_F(PointerModeTest, DeletingAsksOnceAndCountsItems) {
   EXPECT_EQ(dialogs.questions.size(), 2U);
 }
 
-TEST_F(PointerModeTest, TheRightButtonNamesWhatLiesUnderIt) {
-  session.project.Lines.Edit(1).Name = "Shore road";
-  Click({0, 0}, MouseButton::Right);
-  Click({50, 60}, MouseButton::Right);
-  Click({0, 200}, MouseButton::Right);
-  ASSERT_EQ(host.menus.size(), 3U);
-  EXPECT_EQ(host.menus[0].Kind, "PtInLine");
-  EXPECT_EQ(host.menus[0].Title, "POINT # 2 from LINE # 1");
-  EXPECT_EQ(host.menus[1].Title, "Shore road  LINE # 2");
-  EXPECT_EQ(host.menus[2].Kind, "");
-  EXPECT_EQ(host.menus[2].Title, "COAST");
-
-  dialogs.answers = {true, true};
-  editor.DeleteTarget(host.menus[0]);
-  EXPECT_EQ(Lines()[0].Points.size(), 2U);
-  editor.DeleteTarget(host.menus[1]);
-  EXPECT_EQ(Lines().size(), 1U);
-  EXPECT_EQ(dialogs.questions,
-            (std::vector<std::string>{"Delete this Point from this Line ?", "Delete this Line ?"}));
-  editor.DeleteTarget(host.menus[1]);
-  editor.ShowTargetProperties(host.menus[1]);
-  EXPECT_EQ(dialogs.questions.size(), 2U) << "a target that is gone asks nothing";
-  EXPECT_TRUE(host.lineForms.empty());
-}
-
 TEST_F(PointerModeTest, RTurnsTheNextLeftClickIntoARightOne) {
   editor.KeyUp({'R', false, false, false});
   Click({50, 60}).Click({50, 60});
   EXPECT_EQ(host.menus.size(), 1U);
   EXPECT_TRUE(Lines()[1].Selected);
-}
-
-TEST_F(PointerModeTest, TheMiddleButtonPansInEveryMode) {
-  editor.ChooseMode(ModeId::Line);
-  Click({-100, -50});
-  Press({0, 0}, MouseButton::Middle);
-  MoveTo({30, 40}).Release();
-  EXPECT_NEAR(session.view.LonDispCenter, At(-30, 0).lon, 1e-12);
-  EXPECT_NEAR(session.view.LatDispCenter, At(0, -40).lat, 1e-12);
-  Click({0, 0});
-  EXPECT_EQ(Lines().size(), 3U) << "the line under way goes on";
 }
 
 TEST_F(PointerModeTest, WheelStepsNeedAWholeNotchAndNoKey) {
@@ -192,21 +119,6 @@ TEST_F(PointerModeTest, WheelStepsNeedAWholeNotchAndNoKey) {
   wheel(240);
   EXPECT_EQ(session.view.Zoom, 2);
   EXPECT_NEAR(ToLatLon(session.view, {100, 0}).lon, under.lon, 1e-12);
-}
-
-TEST_F(PointerModeTest, ZoomToolAndZKey) {
-  editor.ChooseMode(ModeId::Zoom);
-  const LatLon place = At(100, 50);
-  Click({100, 50});
-  EXPECT_EQ(session.view.Zoom, 2);
-  EXPECT_NEAR(session.view.LonDispCenter, place.lon, 1e-12);
-  Click({0, 0}, MouseButton::Right);
-  EXPECT_EQ(session.view.Zoom, 1);
-  editor.ChooseMode(ModeId::Pointer);
-  Key('Z').Press({0, 0}).MoveTo({0, 49});
-  EXPECT_EQ(session.view.Zoom, 1);
-  MoveTo({0, 50}).MoveTo({0, 60}).MoveTo({0, 0});
-  EXPECT_EQ(session.view.Zoom, 1) << "one step out, one step back in";
 }
 
 TEST_F(PointerModeTest, HidingAKindClearsItsSelection) {

@@ -3,7 +3,9 @@
 #include "forms/frmLinesP.h"
 #include "support/Builders.h"
 
+#include <QApplication>
 #include <QLabel>
+#include <QTimer>
 
 namespace landsmith::test {
 namespace {
@@ -221,6 +223,26 @@ TEST_F(LinesDialog, MakePolyAddsOnePolygonAndReverseTurnsTheLine) {
   Press(dialog, "cmdReverse");
   EXPECT_EQ(Line(0).Points[0].Lon, 3);
   EXPECT_EQ(TextOf(dialog, "txtWidth2"), "3");
+}
+
+TEST_F(LinesDialog, TheCheckTakesOutCrowdedVerticesOfEachSelectedLine) {
+  // One step of the latitude is 1.1 metres; a degree has 111330 metres.
+  for (const bool selected : {true, true, false}) {
+    LineRec line = ALine().Through({{1, 1}, {1.00001, 1}, {1.00002, 1}, {2, 1}});
+    line.Selected = selected;
+    Add(line);
+  }
+  dialog.ShowMany();
+  QTimer::singleShot(0, &dialog, [] {
+    QWidget& check = *QApplication::activeModalWidget();
+    Type(check, "txtDistance", "9");
+    Press(check, "cmdAuto");
+  });
+  Press(dialog, "cmdCheckLine");
+  EXPECT_EQ(Line(0).Points.size(), 3U);
+  EXPECT_EQ(Line(1).Points.size(), 3U);
+  EXPECT_EQ(Line(2).Points.size(), 4U);
+  EXPECT_TRUE(rig.session.undo.CanUndo());
 }
 
 TEST_F(LinesDialog, TemplatesTakeTypeColorAndWidths) {

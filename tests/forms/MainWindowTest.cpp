@@ -62,7 +62,6 @@ TEST_F(MainWindow, EveryToolbarKeyHasItsButtonPictureAndTip) {
     EXPECT_FALSE(button.icon().isNull()) << key;
     EXPECT_FALSE(button.toolTip().isEmpty()) << key;
   }
-  EXPECT_FALSE(rig.Button("Poly").isEnabled());
 }
 
 /// Mean lightness of what is drawn in a picture, 0 black to 1 white.
@@ -270,12 +269,38 @@ TEST_F(MainWindow, AProjectFileCanBeDropped) {
 TEST_F(MainWindow, TheMenuTreeHasTheLaterCommandsSwitchedOff) {
   rig.ShowProject();
   for (const char* name :
-       {"mnuFImport",  "mnuFExport",   "mnuFAppend",    "mnuFAPolish",    "mnuFALWMBGL",     "mnuFAVTPBGL",
-        "mnuFESurfer", "mnuFBSQVIEW",  "mnuFDTED22BSQ", "mnuFHGT2BSQ",    "mnuFBMP2BSQ",     "mnuFBSQ2BMP",
-        "mnuFBSQCROP", "mnuFBSQMERGE", "mnuFBSQUPDOWN", "mnuFBSQPROCESS", "mnuFCoordTransf", "mnuEUndo",
-        "mnuERedo",    "mnuECut",      "mnuECopy",      "mnuEPaste",      "mnuEMeasure",     "mnuVSummer",
-        "mnuVMesh",    "mnuVfromFS",   "mnuVforFS",     "mnuOPoly",       "mnuOExclude"})
+       {"mnuFImport", "mnuFExport", "mnuFAppend", "mnuFAPolish", "mnuFALWMBGL", "mnuFAVTPBGL", "mnuFESurfer",
+        "mnuFBSQVIEW", "mnuFDTED22BSQ", "mnuFHGT2BSQ", "mnuFBMP2BSQ", "mnuFBSQ2BMP", "mnuFBSQCROP",
+        "mnuFBSQMERGE", "mnuFBSQUPDOWN", "mnuFBSQPROCESS", "mnuFCoordTransf", "mnuVfromFS", "mnuVforFS"})
     EXPECT_FALSE(rig.Action(name).isEnabled()) << name;
+}
+
+TEST_F(MainWindow, TheBitmapsOfTheMapsAreChosenInTheViewMenu) {
+  rig.ShowProject();
+  ASSERT_TRUE(rig.Action("mnuVSummer").isChecked());
+  rig.Action("mnuVHard").trigger();
+  EXPECT_EQ(rig.session.view.MapView, "HardWinter");
+  EXPECT_TRUE(rig.Action("mnuVHard").isChecked());
+  EXPECT_FALSE(rig.Action("mnuVSummer").isChecked());
+  rig.session.view.MapView.clear();  // as in a project that is new
+  rig.window->RefreshUi();
+  for (const char* name : {"mnuVSummer", "mnuVMesh"})
+    EXPECT_FALSE(rig.Action(name).isEnabled()) << name;
+  EXPECT_FALSE(rig.window->findChild<QMenu*>("mnuVBitmap")->isEnabled());
+}
+
+TEST_F(MainWindow, AHintThatIsTooLongLeavesThePanelsTheirRoom) {
+  rig.ShowProject();
+  rig.window->resize(1200, 500);
+  QTest::qWait(1);
+  auto* hint = rig.window->findChild<QLabel*>("sbHint");
+  EXPECT_FALSE(hint->text().isEmpty()) << "the tool tells what a click does";
+  const int right = rig.window->findChild<QLabel*>("sbSimulator")->geometry().right();
+  rig.window->SetHint(std::string(2000, 'x'));
+  QTest::qWait(1);
+  EXPECT_EQ(rig.window->findChild<QLabel*>("sbSimulator")->geometry().right(), right);
+  EXPECT_LE(hint->geometry().right(), 1200);
+  EXPECT_EQ(hint->toolTip().size(), 2000);
 }
 
 }  // namespace

@@ -52,6 +52,8 @@ TEST(GridSnap, DropsPointsThatMeetTheOneBefore) {
   ProjectState project;
   project.Lines = {Selected<LineRec>({At(10, 10), At(10.2, 10.2), At(9.8, 10.1), At(20, 20), At(10, 10)})};
   project.Polys = {Selected<PolyRec>({At(10, 10), At(50, 10), At(50.1, 10.2), At(50, 50), At(10.2, 9.9)})};
+  project.Polys.Edit(0).Points[4].Alt = 50;
+  project.Polys.Edit(0).Type = "LWM//Land//50//10//5//1//";
   const SnapResult result = SnapSelectedToLod21(project);
   EXPECT_EQ(result.Verified, 10);
   EXPECT_EQ(result.Eliminated, 2 + 2);  // the ring's last point meets its first as well
@@ -59,6 +61,7 @@ TEST(GridSnap, DropsPointsThatMeetTheOneBefore) {
   ExpectAt(project.Lines[0].Points[1], 20, 20);
   ASSERT_EQ(project.Polys[0].Points.size(), 3u);
   ExpectAt(project.Polys[0].Points[2], 50, 50);
+  EXPECT_EQ(project.Polys[0].Type, "LWM//Land//10//10//1//1//");
 }
 
 TEST(GridSnap, DeletesWhatHasTooFewPointsLeft) {

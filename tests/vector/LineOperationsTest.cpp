@@ -158,7 +158,7 @@ TEST(LineToPoly, DropsTheLastVertexOfAClosedLineAlone) {
   line.Points[3].Wid = 99;
   const PolyRec poly = MakePolyFromLine(line);
   EXPECT_EQ(poly.Points.size(), 3U);
-  EXPECT_EQ(poly.Name, "lake");
+  EXPECT_EQ(poly.Name, "");
   EXPECT_EQ(poly.Box, line.Box);
   line.Points[3].Lon = 0.001;
   EXPECT_EQ(MakePolyFromLine(line).Points.size(), 4U);

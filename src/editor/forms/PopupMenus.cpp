@@ -1,16 +1,14 @@
 #include "forms/PopupMenus.h"
 
 #include "core/Text.h"
+#include "editor/PopupAt.h"
 #include "forms/QtText.h"
 
 #include <QAction>
 #include <QFont>
 #include <QPoint>
 
-#include <algorithm>
-#include <array>
 #include <cmath>
-#include <string_view>
 
 namespace landsmith {
 
@@ -21,12 +19,6 @@ void MakeTitle(QAction& action) {
   font.setBold(true);
   action.setFont(font);
   action.setEnabled(false);
-}
-
-/// The general menu's form is that of the project.
-bool HasForm(const std::string& kind) {
-  constexpr std::array<std::string_view, 6> kinds{"", "Line", "Poly", "PtInLine", "PtInPoly", "Map"};
-  return std::find(kinds.begin(), kinds.end(), kind) != kinds.end();
 }
 
 }  // namespace
@@ -73,9 +65,8 @@ QMenu& PopupMenus::MenuOf(const PopupTarget& target) {
 void PopupMenus::Show(const PopupTarget& target) {
   m_target = target;
   QMenu& menu = MenuOf(target);
-  menu.actions().constFirst()->setText(
-      LiteralText(target.Kind.empty() ? ToUpper(m_editor.State().project.Name) : target.Title));
-  menu.actions().constLast()->setEnabled(HasForm(target.Kind));
+  menu.actions().constFirst()->setText(LiteralText(target.Title));
+  menu.actions().constLast()->setEnabled(HasProperties(target));
   const QPoint at(static_cast<int>(std::lround(target.At.x + static_cast<float>(m_canvas.width()) / 2)),
                   static_cast<int>(std::lround(target.At.y + static_cast<float>(m_canvas.height()) / 2)));
   menu.popup(m_canvas.mapToGlobal(at));

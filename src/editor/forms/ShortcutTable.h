@@ -2,8 +2,6 @@
 // are read from the menus themselves.
 #pragma once
 
-#include "editor/ToolState.h"
-
 #include <vector>
 
 namespace landsmith {
@@ -16,7 +14,6 @@ struct ShortcutRow {
 
 struct ShortcutGroup {
   const char* title;
-  std::vector<ModeId> modes;  ///< whose tools it is about; empty for all
   std::vector<ShortcutRow> rows;
 };
 

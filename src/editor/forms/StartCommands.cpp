@@ -44,9 +44,15 @@ void frmStart::BindEditMenu() {
   Bind("mnuERedo", [this] { m_editor->Redo(); });
   m_ui->mnuERedo->setShortcuts(
       {QKeySequence(Qt::CTRL | Qt::Key_Y), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)});
-  Bind("mnuEDelete", [this] { m_editor->DeleteSelected(); });
+  Bind("mnuECut", [this] { m_editor->Cut(); });
+  Bind("mnuECopy", [this] { m_editor->Copy(); });
+  Bind("mnuEPaste", [this] { m_editor->Paste(); });
+  Bind("mnuEDelete", [this] { m_editor->DeleteOne(); });
+  Bind("mnuEMeasure", [this] { m_editor->ToggleMeasure(); });
   Bind("mnuESelectAll", [this] { m_editor->SelectAll(); });
   Bind("mnuEInvert", [this] { m_editor->InvertSelection(); });
+  Bind("mnuEFind", [this] { ShowFind(); });
+  Bind("mnuECoordinates", [this] { ShowCoordinates(); });
   Bind("mnuESnapLOD", [this] { m_editor->SnapToLod21(); });
 }
 
@@ -57,6 +63,9 @@ void frmStart::BindViewMenu() {
     Bind((std::string("mnuV") + row.key).c_str(), [this, kind = row.kind] { m_editor->ToggleShown(kind); });
   for (const int level : GridLevels)
     Bind(("mnuG" + std::to_string(level)).c_str(), [this, level] { m_editor->SetGrid(level); });
+  Bind("mnuVGotoPosition", [this] { ShowGotoPosition(); });
+  for (const ViewRow& row : ViewTable)
+    Bind(row.action, [this, view = row.view] { m_editor->SetMapView(view); });
   Bind("mnuVZoomIn", [this] { m_editor->ZoomAt({}, ZoomStep::In); });
   Bind("mnuVZoomOut", [this] { m_editor->ZoomAt({}, ZoomStep::Out); });
 }

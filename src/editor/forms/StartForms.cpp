@@ -1,8 +1,90 @@
-// The forms that the editor asks the main window for.
+// The forms that the editor asks the main window for, and those that stand beside the canvas.
+#include "forms/frmFind.h"
+#include "forms/frmLinesP.h"
 #include "forms/frmMapsP.h"
+#include "forms/frmPoints0P.h"
+#include "forms/frmPointsP.h"
+#include "forms/frmPolysP.h"
 #include "forms/frmStart.h"
 
 namespace landsmith {
+
+namespace {
+
+/// Shows a form that deletes itself when it is closed.
+void ShowBeside(QDialog& form) {
+  form.setAttribute(Qt::WA_DeleteOnClose);
+  form.show();
+}
+
+/// Shows the properties of one line or polygon, or of all selected ones. The walk that the user may ask for
+/// there begins when the form no longer covers the canvas.
+template <class Form>
+void RunProperties(Form& form, std::optional<std::size_t> item, Editor& editor) {
+  if (item)
+    form.ShowOne(*item);
+  else
+    form.ShowMany();
+  form.exec();
+  if (form.Walk()) editor.StartWalk(*form.Walk());
+}
+
+}  // namespace
+
+void frmStart::ShowLineProperties(std::optional<std::size_t> line) {
+  frmLinesP form(m_session, m_editor->Canvas(), this);
+  RunProperties(form, line, *m_editor);
+  RefreshUi();
+}
+
+void frmStart::ShowPolyProperties(std::optional<std::size_t> poly) {
+  frmPolysP form(m_session, m_editor->Canvas(), this);
+  RunProperties(form, poly, *m_editor);
+  RefreshUi();
+}
+
+/// Search text and last hit stay from one time to the next.
+void frmStart::ShowFind() {
+  if (!m_editor->HasProject()) return;
+  auto* form = findChild<frmFind*>(QString(), Qt::FindDirectChildrenOnly);
+  if (!form) form = new frmFind(m_session, *m_editor, this);
+  form->show();
+  form->raise();
+  form->activateWindow();
+}
+
+void frmStart::ShowGotoPosition() {
+  if (!m_editor->HasProject()) return;
+  auto* form = new frmPointsP(m_session, *m_editor, this);
+  form->ShowGotoPosition();
+  ShowBeside(*form);
+}
+
+void frmStart::ShowCoordinates() {
+  if (!m_editor->HasProject()) return;
+  auto* form = new frmPointsP(m_session, *m_editor, this);
+  form->ShowCoordinates();
+  ShowBeside(*form);
+}
+
+void frmStart::ShowPointForm(const PopupTarget& point) {
+  // One vertex at a time: the walk belongs to it.
+  FollowPoint({});
+  auto* form = new frmPoints0P(m_session, *m_editor, this);
+  form->ShowPoint(point);
+  ShowBeside(*form);
+  m_editor->StartWalk(point, WalkView::Keep);
+}
+
+void frmStart::FollowPoint(const PopupTarget& point) {
+  for (PointForm* form : findChildren<PointForm*>(QString(), Qt::FindDirectChildrenOnly))
+    form->Follow(point);
+}
+
+void frmStart::CheckPointForms() {
+  for (PointForm* form : findChildren<PointForm*>(QString(), Qt::FindDirectChildrenOnly))
+    form->Check();
+}
 
 void frmStart::ShowMapProperties(std::size_t map) {
   if (map >= m_session.project.Maps.size()) return;

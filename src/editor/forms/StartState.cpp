@@ -25,6 +25,7 @@ void frmStart::RefreshUi() {
   RefreshViewMenu();
   RefreshSelectMenu();
   RefreshModes();
+  CheckPointForms();
   m_recovery->ProjectMayBeSaved();
 }
 
@@ -51,12 +52,17 @@ void frmStart::RefreshRecentFiles() {
 
 void frmStart::RefreshEditMenu() {
   const bool open = m_editor->HasProject();
-  const Selection& selected = m_session.tool.Selected;
-  m_ui->mnuEDelete->setEnabled(open && selected.SelectedCount > 0);
   m_ui->mnuEUndo->setEnabled(m_editor->CanUndo());
   m_ui->mnuERedo->setEnabled(m_editor->CanRedo());
-  m_ui->mnuEInvert->setEnabled(open);
-  m_ui->mnuESnapLOD->setEnabled(open && selected.SelectionActive);
+  m_ui->mnuECut->setEnabled(m_editor->MayCut());
+  m_ui->mnuECopy->setEnabled(m_editor->MayCopy());
+  m_ui->mnuEPaste->setEnabled(m_editor->MayPaste());
+  m_ui->mnuEDelete->setEnabled(m_editor->MayDelete());
+  m_ui->mnuEMeasure->setEnabled(m_editor->MayMeasure());
+  m_ui->mnuEMeasure->setChecked(m_session.tool.MeasureOn);
+  for (QAction* action : {m_ui->mnuEInvert, m_ui->mnuEFind, m_ui->mnuECoordinates, m_ui->mnuVGotoPosition})
+    action->setEnabled(open);
+  m_ui->mnuESnapLOD->setEnabled(open && m_session.tool.Selected.SelectionActive);
 }
 
 void frmStart::RefreshViewMenu() {
@@ -85,18 +91,14 @@ void frmStart::RefreshViewMenu() {
 }
 
 void frmStart::RefreshSelectMenu() {
-  const bool open = m_editor->HasProject();
-  const ModeId mode = m_session.tool.Mode;
-  // A mode that edits one kind selects that kind alone.
-  const bool anyKind = mode == ModeId::Pointer || mode == ModeId::Zoom;
   const bool nothing = !m_session.tool.Selected.SelectionActive;
   for (const KindRow& row : KindTable) {
     QAction& item = Action(QStringLiteral("mnuS") + QLatin1String(row.key));
-    item.setEnabled(open && m_session.view.Shows(row.kind) && (anyKind || mode == row.mode));
+    item.setEnabled(m_editor->MaySelectKind(row.kind));
     if (nothing) item.setChecked(false);
   }
   for (QAction* all : {m_ui->mnuSAll, m_ui->mnuESelectAll}) {
-    all->setEnabled(open && anyKind && !m_session.tool.ViewAllOn);
+    all->setEnabled(m_editor->MaySelectAll());
     all->setChecked(m_session.tool.SelectAllOn);
   }
 }

@@ -2,9 +2,12 @@
 
 #include "core/Numbers.h"
 #include "editor/Edit.h"
+#include "editor/TidyItems.h"
 #include "forms/FormGuard.h"
 #include "forms/LineWidths.h"
+#include "forms/PathDialogs.h"
 #include "forms/QtText.h"
+#include "forms/frmLPCheck.h"
 #include "ui_frmLinesP.h"
 #include "vector/LineJoin.h"
 
@@ -34,6 +37,7 @@ void frmLinesP::ConnectControls() {
   run(m_ui->cmdChange, &frmLinesP::ChangeOrder);
   run(m_ui->cmdReverse, &frmLinesP::Reverse);
   run(m_ui->cmdPoly, &frmLinesP::MakePolyOrJoin);
+  run(m_ui->cmdCheckLine, &frmLinesP::Check);
   connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmLinesP::accept);
 }
 
@@ -55,8 +59,7 @@ void frmLinesP::ShowOne(std::size_t line) {
   const LineRec& record = m_session.project.Lines[line];
   m_ui->txtName->setText(ToQString(record.Name));
   m_type->Show(record.Type, record.Color);
-  if (!record.Points.empty())
-    ShowWidths(MeanWidth(record), record.Points.front().Wid, record.Points.back().Wid);
+  ShowLineWidths();
   ShowOrder();
 }
 
@@ -71,6 +74,7 @@ void frmLinesP::ShowMany() {
     m_ui->cmdPoly->setToolTip(tr("Makes one line of the two selected ones."));
   }
   m_ui->cmdReverse->setEnabled(!selected.empty());
+  m_ui->cmdCheckLine->setEnabled(!selected.empty());
   if (selected.empty()) return;
   const RecordList<LineRec>& lines = m_session.project.Lines;
   const LineRec& first = lines[selected.front()];
@@ -89,6 +93,12 @@ void frmLinesP::ShowDefaults(LineDefaults& defaults, const QString& mode) {
   resize(width(), minimumSizeHint().height());
 }
 
+void frmLinesP::ShowLineWidths() {
+  const LineRec& record = m_session.project.Lines[m_line];
+  if (!record.Points.empty())
+    ShowWidths(MeanWidth(record), record.Points.front().Wid, record.Points.back().Wid);
+}
+
 void frmLinesP::ShowWidths(float mean, float first, float last) {
   m_ui->txtWidth->setText(ToQString(NumberText(mean)));
   m_ui->txtWidth1->setText(ToQString(NumberText(first)));
@@ -96,17 +106,13 @@ void frmLinesP::ShowWidths(float mean, float first, float last) {
 }
 
 void frmLinesP::ShowOrder() {
-  m_ui->lbOrder->setText(
-      QStringLiteral("Line = %1 out of %2").arg(m_line + 1).arg(m_session.project.Lines.size()));
+  m_ui->lbOrder->setText(OrderText("Line", m_line, m_session.project.Lines.size()));
 }
 
 std::vector<std::size_t> frmLinesP::Lines() const {
-  std::vector<std::size_t> lines;
-  if (m_mode == Mode::One) lines.push_back(m_line);
-  if (m_mode != Mode::Many) return lines;
-  for (std::size_t i = 0; i < m_session.project.Lines.size(); ++i)
-    if (m_session.project.Lines[i].Selected) lines.push_back(i);
-  return lines;
+  if (m_mode == Mode::One) return {m_line};
+  if (m_mode == Mode::Many) return SelectedItems(m_session.project.Lines);
+  return {};
 }
 
 void frmLinesP::ChangeWidth() {
@@ -149,12 +155,8 @@ void frmLinesP::ChangeProgressiveWidth() {
 }
 
 void frmLinesP::ChangeOrder() {
-  DrawingOrder order = DrawingOrder::Top;
-  if (m_ui->opBottom->isChecked()) order = DrawingOrder::Bottom;
-  if (m_ui->opUp->isChecked()) order = DrawingOrder::Up;
-  if (m_ui->opDown->isChecked()) order = DrawingOrder::Down;
   Edit edit(m_session, m_display);
-  m_line = ChangePathOrder(edit.Project().Lines, m_line, order);
+  m_line = ChangePathOrder(edit.Project().Lines, m_line, ChosenOrder(*m_ui));
   ShowOrder();
 }
 
@@ -176,18 +178,34 @@ void frmLinesP::MakePolyOrJoin() {
     m_ui->cmdPoly->setEnabled(false);  // once is enough
     return;
   }
-  const bool wasDirty = m_session.project.Dirty;
   std::string refused;
   {
     Edit edit(m_session, m_display);
     refused = JoinLines(edit.Project(), m_session.tool.Selected);
-    if (!refused.empty()) m_session.project.Dirty = wasDirty;
   }
   if (refused.empty())
     m_session.dialogs.Beep();
   else
     m_session.dialogs.Message(MessageKind::Error, refused);
   QDialog::accept();
+}
+
+void frmLinesP::Check() {
+  frmLPCheck check(m_session, this);
+  check.exec();
+  const CheckRequest& request = check.Request();
+  const std::vector<std::size_t> lines = Lines();
+  if (request.Mode == CheckMode::Cancel) return;
+  if (request.Mode == CheckMode::Manual) {
+    accept();
+    if (result() == QDialog::Accepted) m_walk = PopupTarget{"PtInLine", "", lines.front(), 0, {}};
+    return;
+  }
+  {
+    Edit edit(m_session, m_display);
+    TidyLines(edit.Project(), lines, request, m_session.view.LatDispCenter, m_session.tool.Selected);
+  }
+  if (m_mode == Mode::One) ShowLineWidths();
 }
 
 bool frmLinesP::StoreDefaults() {

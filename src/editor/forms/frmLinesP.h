@@ -2,6 +2,7 @@
 #pragma once
 
 #include "editor/Display.h"
+#include "editor/EditorHost.h"
 #include "editor/Session.h"
 #include "forms/LineTypeFields.h"
 #include "vector/LineOperations.h"
@@ -36,6 +37,9 @@ public:
   /// Modes "BLN" and "RGN": a template that OK stores in `defaults`, which must outlive the dialog.
   void ShowDefaults(LineDefaults& defaults, const QString& mode);
 
+  /// After it has closed: the vertex from which the user wants to walk along the line.
+  const std::optional<PopupTarget>& Walk() const { return m_walk; }
+
   void accept() override;
 
 private:
@@ -43,6 +47,7 @@ private:
 
   void ConnectControls();
   void SetMode(Mode mode);
+  void ShowLineWidths();
   void ShowWidths(float mean, float first, float last);
   void ShowOrder();
   /// The lines that the dialog is about; none for a template.
@@ -53,6 +58,7 @@ private:
   void ChangeOrder();
   void Reverse();
   void MakePolyOrJoin();
+  void Check();
   bool StoreDefaults();
   void ApplyToLines();
   /// First and last width of the two boxes, after the message when they are refused.
@@ -65,6 +71,7 @@ private:
   Mode m_mode = Mode::One;
   std::size_t m_line = 0;
   LineDefaults* m_defaults = nullptr;
+  std::optional<PopupTarget> m_walk;
 };
 
 }  // namespace landsmith

@@ -6,8 +6,6 @@
 #include <QAction>
 #include <QMenu>
 
-#include <algorithm>
-
 namespace landsmith {
 
 namespace {

@@ -6,7 +6,6 @@
 #include "forms/QtText.h"
 #include "forms/StartTables.h"
 #include "forms/WindowMemory.h"
-#include "forms/frmLinesP.h"
 #include "forms/frmProjectP.h"
 #include "platform/Paths.h"
 #include "ui_frmStart.h"
@@ -61,7 +60,7 @@ frmStart::frmStart(Session& session, QWidget* parent)
 
   m_editor = std::make_unique<Editor>(m_session, *m_ui->canvas, *this);
   m_popups = std::make_unique<PopupMenus>(*m_ui->canvas, *m_editor);
-  m_recovery = std::make_unique<RecoveryKeeper>(m_session);
+  m_recovery = std::make_unique<RecoveryKeeper>(m_session, this);
   NameToolButtons();
   PaintIcons();
   BindFileMenu();
@@ -135,16 +134,6 @@ void frmStart::SetHint(std::string_view hint) {
 
 void frmStart::ShowContextMenu(const PopupTarget& target) {
   m_popups->Show(target);
-}
-
-void frmStart::ShowLineProperties(std::optional<std::size_t> line) {
-  frmLinesP form(m_session, m_editor->Canvas(), this);
-  if (line)
-    form.ShowOne(*line);
-  else
-    form.ShowMany();
-  form.exec();
-  RefreshUi();
 }
 
 bool frmStart::ShowProjectProperties() {

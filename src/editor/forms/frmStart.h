@@ -50,7 +50,10 @@ public:
   void ShowContextMenu(const PopupTarget& target) override;
   void ShowLineProperties(std::optional<std::size_t> line) override;
   void ShowMapProperties(std::size_t map) override;
+  void ShowPolyProperties(std::optional<std::size_t> poly) override;
   bool ShowProjectProperties() override;
+  void ShowPointForm(const PopupTarget& point) override;
+  void FollowPoint(const PopupTarget& point) override;
   int ToolbarHeight() const override;
   int StatusBarHeight() const override;
   bool StartTimer(TimerId timer, int milliseconds) override;
@@ -82,6 +85,12 @@ private:
   void ShowCompilation();
   void ShowShortcuts();
   void ShowAbout();
+
+  // StartForms.cpp: forms beside the canvas
+  void ShowFind();
+  void ShowGotoPosition();
+  void ShowCoordinates();
+  void CheckPointForms();
 
   // StartState.cpp: what is enabled and checked
   QAction& Action(const QString& name);

@@ -4,23 +4,40 @@
 #include "forms/QtText.h"
 #include "ui_frmTerrain.h"
 
+#include <utility>
+
 namespace landsmith {
 
+namespace {
+
+QString TitleOf(TextureKind kind) {
+  return kind == TextureKind::Line ? frmTerrain::tr("Landsmith - Pre-assembled VTP Line Textures")
+                                   : frmTerrain::tr("Landsmith - Pre-assembled VTP Polygon Textures");
+}
+
+}  // namespace
+
 frmTerrain::frmTerrain(Session& session, TextureKind kind, QWidget* parent)
+    : frmTerrain(session, TitleOf(kind), CatalogOf(session, kind), CurrentTextureOf(session, kind), parent) {
+  m_kind = kind;
+}
+
+frmTerrain::frmTerrain(Session& session, const QString& title, TextureCatalog items, std::size_t current,
+                       QWidget* parent)
     : QDialog(parent),
       m_session(session),
-      m_kind(kind),
+      m_items(std::move(items)),
       m_preview(session),
       m_ui(std::make_unique<Ui::frmTerrain>()) {
   m_ui->setupUi(this);
-  if (kind == TextureKind::Poly) setWindowTitle(tr("Landsmith - Pre-assembled VTP Polygon Textures"));
-  for (const TextureItem& item : CatalogOf(session, kind))
+  setWindowTitle(title);
+  for (const TextureItem& item : m_items)
     m_ui->List1->addItem(ToQString(item.Title));
   connect(m_ui->List1, &QListWidget::currentRowChanged, this, &frmTerrain::ShowEntry);
   connect(m_ui->List1, &QListWidget::itemDoubleClicked, this, &frmTerrain::accept);
   connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmTerrain::accept);
   m_ui->cmdOK->setEnabled(false);
-  m_ui->List1->setCurrentRow(static_cast<int>(CurrentTextureOf(session, kind)));
+  m_ui->List1->setCurrentRow(static_cast<int>(current));
 }
 
 frmTerrain::~frmTerrain() = default;
@@ -28,7 +45,7 @@ frmTerrain::~frmTerrain() = default;
 void frmTerrain::ShowEntry(int row) {
   m_ui->cmdOK->setEnabled(row >= 0);
   if (row < 0) return;
-  const TextureItem& item = CatalogOf(m_session, m_kind)[static_cast<std::size_t>(row)];
+  const TextureItem& item = m_items[static_cast<std::size_t>(row)];
   m_ui->lbTex->SetColor(Rgb(item.R, item.G, item.B));
   m_ui->lbPack->setText(ToQString(TextureText(item)));
   const QPixmap picture = m_preview.LoadFromCatalog(item.Textures);
@@ -39,7 +56,8 @@ void frmTerrain::ShowEntry(int row) {
 void frmTerrain::accept() {
   const int row = m_ui->List1->currentRow();
   if (row < 0) return;
-  CurrentTextureOf(m_session, m_kind) = static_cast<std::size_t>(row);
+  m_chosen = static_cast<std::size_t>(row);
+  if (m_kind) CurrentTextureOf(m_session, *m_kind) = m_chosen;
   QDialog::accept();
 }
 

@@ -1,4 +1,4 @@
-// Picks a ready-made texture of the line or polygon catalogue.
+// Picks a ready-made texture of the line or polygon catalogue, or another texture of a list.
 #pragma once
 
 #include "editor/Session.h"
@@ -7,7 +7,9 @@
 
 #include <QDialog>
 
+#include <cstddef>
 #include <memory>
+#include <optional>
 
 namespace landsmith {
 
@@ -19,17 +21,25 @@ class frmTerrain final : public QDialog {
   Q_OBJECT
 
 public:
+  /// OK stores the chosen place as the catalogue's current one.
   frmTerrain(Session& session, TextureKind kind, QWidget* parent);
+  /// A list of its own with the place that is marked first, 0-based.
+  frmTerrain(Session& session, const QString& title, TextureCatalog items, std::size_t current,
+             QWidget* parent);
   ~frmTerrain() override;
 
-  /// Stores the chosen place as the catalogue's current one.
+  /// After OK.
+  const TextureItem& Chosen() const { return m_items[m_chosen]; }
+
   void accept() override;
 
 private:
   void ShowEntry(int row);
 
   Session& m_session;
-  TextureKind m_kind;
+  std::optional<TextureKind> m_kind;
+  TextureCatalog m_items;
+  std::size_t m_chosen = 0;
   TexturePreview m_preview;
   std::unique_ptr<Ui::frmTerrain> m_ui;
 };
