@@ -40,6 +40,8 @@ public:
   void ClearBase(std::int32_t color) override { m_baseSurface.Clear(ToQColor(color)); }
   void ClearOverlay() override { m_overlaySurface.Clear(Qt::transparent); }
   void ClearTop() override { m_topSurface.Clear(Qt::transparent); }
+  bool LoadPicture(const std::filesystem::path&) override { return false; }  // no maps here
+  void KeepPictures(std::span<const std::filesystem::path>) override {}
   void Present() override {
     QPainter painter(&m_screen);
     painter.drawImage(0, 0, m_base);
