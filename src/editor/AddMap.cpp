@@ -34,7 +34,7 @@ struct NewMap {
 
 std::optional<MapData> FindMapData(const std::filesystem::path& bitmap) {
   const auto file = FindExisting(MapDataName(PathText(bitmap)));
-  if (!file) return {};
+  if (!file || !std::filesystem::is_regular_file(*file)) return {};
   return ParseMapData(ReadWholeFile(*file));
 }
 

@@ -52,7 +52,7 @@ CursorShape Editor::CursorNow() const {
   const ToolState& tool = m_session.tool;
   if (tool.MeasureOn) return CursorShape::Measure;
   if (m_gesture) return m_gesture->Cursor();
-  if (m_pick) return CursorShape::Cross;
+  if (m_pick && tool.Mode != ModeId::Zoom) return CursorShape::Cross;
   if (tool.PasteArmed) return CursorShape::Paste;
   return m_mode->Cursor();
 }
@@ -65,7 +65,7 @@ std::string Editor::HintNow() const {
   if (tool.PanKeyDown) return "Drag: move the view";
   if (tool.NextClickIsRight) return "Click: as with the right button";
   if (tool.PasteArmed) return "Click: paste a copy here. Right click: no more copies";
-  if (m_pick) return "Click: take this place";
+  if (m_pick && tool.Mode != ModeId::Zoom) return "Click: take this place";
   if (tool.MeasureOn)
     return m_context.measure.Started() ? "Click: end the measure. Right click: stop measuring"
                                        : "Click: measure from here. Right click: stop measuring";

@@ -57,7 +57,7 @@ MapData ParseMapData(std::string_view text) {
   for (const SetRow& row : Sets) {
     MapDataSet& set = data.*row.Set;
     if (!row.Number.empty())
-      set.File = FromWindows1252(FindIniKey(text, Section, Joined("File", row.Number)));
+      set.File = FromWindows1252(Trim(FindIniKey(text, Section, Joined("File", row.Number))));
     for (const SideRow& side : Sides)
       set.Box.*side.Side =
           ParseNumber(FindIniKey(text, Section, Joined(side.Key, row.Number)), true).value_or(0);

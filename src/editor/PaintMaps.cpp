@@ -11,6 +11,7 @@ namespace {
 
 constexpr std::int32_t MapSelectionColor = 65535;
 constexpr std::int32_t MostPixels = 1 << 24;  ///< along a side; more is no size of a bitmap
+constexpr double MostDegrees = 1e6;           ///< of a side; a damaged file may hold any number
 
 /// A map and the canvas along one axis, from the west or from the north.
 struct Axis {
@@ -60,6 +61,11 @@ bool IsSize(std::int32_t pixels) {
   return pixels > 0 && pixels <= MostPixels;
 }
 
+bool IsBox(const MapLevel& level) {
+  return level.NLat > level.SLat && level.ELon > level.WLon && level.NLat < MostDegrees &&
+         level.SLat > -MostDegrees && level.ELon < MostDegrees && level.WLon > -MostDegrees;
+}
+
 void PaintBitmap(Surface& surface, const PaintInput& in, std::size_t map, const MapCut& cut) {
   const MapPictures& pictures = in.view.Pictures;
   if (map >= pictures.Files.size() || pictures.Files[map].empty()) return;
@@ -82,7 +88,7 @@ void PaintFrame(Surface& surface, const PaintInput& in, const MapRec& map, const
 }  // namespace
 
 std::optional<MapCut> CutMap(const MapLevel& shown, const ViewState& view) {
-  if (!(shown.NLat > shown.SLat) || !(shown.ELon > shown.WLon)) return {};
+  if (!IsBox(shown)) return {};
   if (!Meets(view, {shown.NLat, shown.SLat, shown.WLon, shown.ELon})) return {};
   const bool hasSize = IsSize(shown.COLS) && IsSize(shown.ROWS);
   const AxisCut x = CutAxis({shown.ELon - shown.WLon, view.LonRight - view.LonLeft,

@@ -52,9 +52,10 @@ TEST(MapData, TheFileHoldsDecimalDegreesAndIsReadInAnyOrder) {
   EXPECT_EQ(data.Land.Box, (GeoBox{1, 0.00025, 2, 3}));
   EXPECT_EQ(MapDataText(data), text);
 
-  const MapData odd =
-      ParseMapData("[Other]\nNorth=9\n[geographic]\nEAST=3\nNorth=4o\nSouth= -1,5 \nWest=1e400\n");
+  const MapData odd = ParseMapData(
+      "[Other]\nNorth=9\n[geographic]\nEAST=3\nNorth=4o\nSouth= -1,5 \nWest=1e400\nFile2= a b.bmp \n");
   EXPECT_EQ(odd.Main.Box, (GeoBox{0, -1.5, 0, 3}));
+  EXPECT_EQ(odd.Mesh.File, "a b.bmp");
   EXPECT_EQ(MapDataName("d:\\maps\\coast.bmp"), "d:\\maps\\coast.TXT");
 }
 

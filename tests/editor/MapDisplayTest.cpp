@@ -52,7 +52,7 @@ TEST(MapCut, TouchesThePixelsUnderTheViewAndTwoMore) {
     EXPECT_EQ(cut->FrameHeight, row.frameHeight) << row.name;
   }
   for (const MapLevel& unseen : {MapLevel{40, 20, 49, 48, 8, 9.999}, MapLevel{40, 20, 43.9, 43, 11, 13},
-                                 MapLevel{40, 20, 48, 49, 11, 13}})
+                                 MapLevel{40, 20, 48, 49, 11, 13}, MapLevel{40, 20, 1e300, -1e300, 11, 13}})
     EXPECT_FALSE(CutMap(unseen, HundredPixelsADegree()));
 }
 

@@ -59,10 +59,13 @@ TEST_F(MapForms, OkStoresOneStepOfUndoAndKeepsWhatIsFinerThanItsText) {
   EXPECT_EQ(LastMessage(), "Mesh Map must have Bitmap file format!");
   EXPECT_EQ(TextOf(form, "txtBMPMesh"), "");
   Press(form, "cmdWinter");
-  Type(form, "txtSLat0", "south");
-  Press(form, "cmdOK");
-  EXPECT_EQ(LastMessage(), "Check Latitude & Longitude Values");
-  EXPECT_EQ(Map(), before);
+  for (const char* refused : {"south", "40.3"}) {
+    Type(form, "txtSLat0", refused);
+    rig.dialogs.messages.clear();
+    Press(form, "cmdOK");
+    EXPECT_EQ(LastMessage(), "Check Latitude & Longitude Values") << refused;
+    EXPECT_EQ(Map(), before);
+  }
   Type(form, "txtSLat0", "39.5");
   Press(form, "cmdOK");
   EXPECT_EQ(form.result(), QDialog::Accepted);
@@ -145,13 +148,21 @@ TEST_F(MapForms, ClicksOnTheCanvasCalibrateTheView) {
 }
 
 TEST_F(MapForms, ACalibrationEndsWithItsMap) {
+  rig.session.project.Maps.Edit(0).BMPLC = (rig.folder / "gone.bmp").string();
+  TheEditor().SetMapView("Land");
+  frmCalibrate::Open(rig.session, TheEditor(), 0, rig.window.get());
+  EXPECT_EQ(LastMessage(), "The bitmap under calibration is not shown!");
+  EXPECT_EQ(rig.window->findChild<frmCalibrate*>(), nullptr);
+  rig.dialogs.messages.clear();
+
+  TheEditor().SetMapView("Summer");
   frmCalibrate::Open(rig.session, TheEditor(), 0, rig.window.get());
   auto* form = rig.window->findChild<frmCalibrate*>();
   Press(*form, "cmdPP1");
   TheEditor().Undo();  // the map is gone
   ASSERT_TRUE(rig.session.project.Maps.empty());
   rig.Click(0, 0);
-  EXPECT_EQ(LastMessage(), "The bitmap under calibration is no longer shown!");
+  EXPECT_EQ(LastMessage(), "The bitmap under calibration is not shown!");
   EXPECT_FALSE(form->isVisible());
 }
 

@@ -51,15 +51,17 @@ QRgb Mean(QRgb a, QRgb b, QRgb c, QRgb d) {
 template <class Color>
 QImage HalfOf(const QImage& picture, QImage::Format format, Color color) {
   QImage half((picture.width() + 1) / 2, (picture.height() + 1) / 2, format);
-  const int lastColumn = picture.width() - 1, lastRow = picture.height() - 1;
+  const int lastColumn = picture.width() - 1, lastRow = picture.height() - 1, pairs = picture.width() / 2;
   for (int y = 0; y < half.height(); ++y) {
     const uchar* upper = picture.constScanLine(2 * y);
     const uchar* lower = picture.constScanLine(std::min(2 * y + 1, lastRow));
     auto* row = reinterpret_cast<QRgb*>(half.scanLine(y));
-    for (int x = 0; x < half.width(); ++x) {
-      const int left = 2 * x, right = std::min(left + 1, lastColumn);
-      row[x] = Mean(color(upper, left), color(upper, right), color(lower, left), color(lower, right));
-    }
+    const auto mean = [&](int left, int right) {
+      return Mean(color(upper, left), color(upper, right), color(lower, left), color(lower, right));
+    };
+    for (int x = 0; x < pairs; ++x)
+      row[x] = mean(2 * x, 2 * x + 1);
+    if (pairs < half.width()) row[pairs] = mean(lastColumn, lastColumn);
   }
   return half;
 }
@@ -103,11 +105,17 @@ const Picture& PictureCache::Find(const std::filesystem::path& file) {
   const bool known = entry.lastUse > 0 && entry.written == written && entry.size == size;
   entry.lastUse = ++m_uses;
   if (known) return entry.picture;
-  entry.picture = Picture();  // gone before the next one comes
-  entry.picture = Picture(missing ? QImage() : Decode(file));
+  entry.picture = Picture();                                               // gone before the next one comes
+  entry.picture = Picture(missing || sizeless ? QImage() : Decode(file));  // a pipe would never end
   entry.written = written;
   entry.size = size;
   return entry.picture;
+}
+
+bool PictureCache::Load(const std::filesystem::path& file) {
+  const Picture& picture = Find(file);
+  if (!picture.IsNull()) picture.Halved(1);
+  return !picture.IsNull();
 }
 
 void PictureCache::Keep(std::span<const std::filesystem::path> shown) {

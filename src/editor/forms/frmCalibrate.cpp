@@ -79,6 +79,10 @@ void frmCalibrate::Open(Session& session, Editor& editor, std::size_t map, QWidg
   for (frmCalibrate* form : open)
     form->reject();
   auto* form = new frmCalibrate(session, editor, map, parent);
+  if (!form->CheckMap()) {
+    delete form;
+    return;
+  }
   form->setAttribute(Qt::WA_DeleteOnClose);
   form->show();
   // Whoever asked for the form is still closing and hands the focus back to the window.
@@ -92,8 +96,11 @@ void frmCalibrate::done(int result) {
 }
 
 bool frmCalibrate::CheckMap() {
-  if (!m_bitmap.empty() && BitmapInView(m_session, m_map) == m_bitmap) return true;
-  m_session.dialogs.Message(MessageKind::Error, "The bitmap under calibration is no longer shown!");
+  const auto& painted = m_session.view.Pictures.Files;  // without what cannot be read
+  if (!m_bitmap.empty() && BitmapInView(m_session, m_map) == m_bitmap && m_map < painted.size() &&
+      painted[m_map] == m_bitmap)
+    return true;
+  m_session.dialogs.Message(MessageKind::Error, "The bitmap under calibration is not shown!");
   reject();
   return false;
 }

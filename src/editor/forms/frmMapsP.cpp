@@ -197,18 +197,22 @@ void frmMapsP::TakeSize(std::size_t set, const BitmapSize& size) {
 
 std::optional<MapLevel> frmMapsP::ReadSet(std::size_t set) {
   const SetFields& fields = m_sets[set];
+  const auto refuse = [&](std::size_t side) {
+    fields.Sides[side]->setFocus();
+    m_session.dialogs.Message(MessageKind::Error, CheckPlacesText);
+    return std::nullopt;
+  };
   MapLevel level = fields.Level;
   for (std::size_t side = 0; side < fields.Sides.size(); ++side) {
     const QString text = fields.Sides[side]->text();
     if (text == fields.Shown[side]) continue;
     const auto value = ParseSide(text.toStdString(), side, m_session.settings.Form());
-    if (!value) {
-      fields.Sides[side]->setFocus();
-      m_session.dialogs.Message(MessageKind::Error, CheckPlacesText);
-      return {};
-    }
+    if (!value) return refuse(side);
     level.*SideOf[side] = *value;
   }
+  // A map that was turned over would never be seen again, nor its menu.
+  if (level != fields.Level && !(level.NLat > level.SLat)) return refuse(0);
+  if (level != fields.Level && !(level.ELon > level.WLon)) return refuse(3);
   return level;
 }
 
