@@ -90,6 +90,9 @@ public:
   void ToggleMeasure();  ///< mnuEMeasure and M
   /// mnuVSummer ...: an exact view name.
   void SetMapView(std::string_view view);
+  /// Stores where the bitmap lies that the view shows of a map (0-based), as one change. False when it
+  /// failed.
+  bool CalibrateMap(std::size_t map, const GeoBox& box);
   /// The next press on the canvas goes to `pick` and nowhere else; a form that waits for a place on the map
   /// asks for it. An empty function takes the request back. A right press, Esc and the end of the project end
   /// the wait: `pick` then gets a press of the right button. The view may be panned and zoomed meanwhile.

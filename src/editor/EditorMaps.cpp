@@ -1,4 +1,6 @@
 // The view of the maps, and the place on the canvas that a form waits for.
+#include "editor/Calibration.h"
+#include "editor/Edit.h"
 #include "editor/Editor.h"
 #include "editor/MapView.h"
 
@@ -22,6 +24,16 @@ void Editor::SetMapView(std::string_view view) {
     AfterViewChange();
   });
   m_host.RefreshUi();
+}
+
+bool Editor::CalibrateMap(std::size_t map, const GeoBox& box) {
+  EndGesture();
+  const bool stored = Guard([&] {
+    Edit edit(m_session, m_display);
+    StoreCalibration(edit.Project().Maps.Edit(map), m_session.view.MapView, box);
+  });
+  m_host.RefreshUi();
+  return stored;
 }
 
 void Editor::PickPoint(std::function<void(const PointerInput&)> pick) {

@@ -98,7 +98,9 @@ TEST_F(MapForms, TheDataFileIsOverwrittenOnYesAlone) {
 TEST_F(MapForms, ClicksOnTheCanvasCalibrateTheView) {
   rig.session.project.Maps.Edit(0).BMPLC = Quarters(rig.folder, "land.bmp").string();
   rig.session.project.Maps.Edit(0).Level[2] = Map().Level[1];
+  rig.session.undo.Reset();
   TheEditor().SetMapView("Land");
+  EXPECT_FALSE(rig.Action("mnuEUndo").isEnabled());
   const MapLevel mainSet = Map().Level[1];
   frmCalibrate::Open(rig.session, TheEditor(), 0, rig.window.get());
   auto* form = rig.window->findChild<frmCalibrate*>();
@@ -143,7 +145,7 @@ TEST_F(MapForms, ClicksOnTheCanvasCalibrateTheView) {
   EXPECT_EQ(Map().Level[2], (MapLevel{200, 200, 51.5, 49.5, 6.5, 8.5}));
   EXPECT_EQ(Map().Level[0], Map().Level[2]);
   EXPECT_EQ(Map().Level[1], mainSet);
-  TheEditor().Undo();
+  rig.Action("mnuEUndo").trigger();
   EXPECT_EQ(Map().Level[0], mainSet);
 }
 

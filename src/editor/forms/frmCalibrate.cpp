@@ -2,9 +2,7 @@
 
 #include "core/CoordText.h"
 #include "core/Numbers.h"
-#include "editor/Edit.h"
 #include "editor/MapView.h"
-#include "forms/FormGuard.h"
 #include "forms/QtText.h"
 #include "ui_frmCalibrate.h"
 
@@ -170,11 +168,7 @@ void frmCalibrate::Calibrate() {
     m_session.dialogs.Message(MessageKind::Error, refusal->Message);
     return;
   }
-  const bool stored = RunGuarded(m_session.dialogs, [&] {
-    Edit edit(m_session, m_editor.Canvas());
-    StoreCalibration(edit.Project().Maps.Edit(m_map), m_session.view.MapView, std::get<GeoBox>(outcome));
-  });
-  if (stored) accept();
+  if (m_editor.CalibrateMap(m_map, std::get<GeoBox>(outcome))) accept();
 }
 
 }  // namespace landsmith
