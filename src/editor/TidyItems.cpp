@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <ranges>
 
 namespace landsmith {
 namespace {
@@ -41,7 +40,8 @@ std::size_t TidyPolys(ProjectState& project, std::span<const std::size_t> polys,
                       double centerLat, Selection& selection) {
   const TidyScale scale{std::fabs(request.DistanceMetres), centerLat};
   std::size_t deleted = 0;
-  for (const std::size_t poly : std::views::reverse(polys)) {
+  for (std::size_t i = polys.size(); i-- > 0;) {  // from the last, so that numbers hold while polygons go
+    const std::size_t poly = polys[i];
     const bool stands = TidyPath(project.Polys.Edit(poly), selection, [&](PolyRec& record) {
       if (request.Mode == CheckMode::Simplify) return SimplifyPoly(record, scale);
       if (request.Mode == CheckMode::Smooth) SmoothPoly(record, scale, request.Smooth);

@@ -7,9 +7,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numeric>
 #include <optional>
 #include <string_view>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -21,31 +21,44 @@ using Ring = std::vector<PolyPoint>;
 constexpr std::string_view NotJoinable = "Polygons can not be joined!";
 constexpr std::size_t LeastBorder = 2;
 
-/// Answers which vertices of a ring are close to a position, by a look at those of about its latitude.
+/// Answers which vertices of a ring are close to a position: they lie in rows a tolerance high, from west to
+/// east.
 class CloseVertices {
 public:
   CloseVertices(const Ring& ring, const JoinTolerance& tolerance)
-      : m_ring(ring), m_tolerance(tolerance), m_northward(ring.size()) {
-    std::iota(m_northward.begin(), m_northward.end(), std::size_t{0});
-    std::sort(m_northward.begin(), m_northward.end(),
-              [&](std::size_t a, std::size_t b) { return ring[a].Lat < ring[b].Lat; });
+      : m_ring(ring), m_tolerance(tolerance), m_reach{tolerance.Lon * Wider, tolerance.Lat * Wider} {
+    m_places.reserve(ring.size());
+    for (std::size_t k = 0; k < ring.size(); ++k)
+      m_places.push_back({RowOf(ring[k]), ring[k].Lon, k});
+    std::sort(m_places.begin(), m_places.end());
   }
 
   /// In no order that means anything.
   std::vector<std::size_t> Of(const PolyPoint& at) const {
-    const double reach = m_tolerance.Lat * 1.001;  // AreClose decides at the very edge
-    auto next = std::lower_bound(m_northward.begin(), m_northward.end(), at.Lat - reach,
-                                 [&](std::size_t k, double lat) { return m_ring[k].Lat < lat; });
     std::vector<std::size_t> close;
-    for (; next != m_northward.end() && m_ring[*next].Lat <= at.Lat + reach; ++next)
-      if (AreClose(at, m_ring[*next], m_tolerance)) close.push_back(*next);
+    for (const double row : {RowOf(at) - 1, RowOf(at), RowOf(at) + 1}) {
+      auto next = std::lower_bound(m_places.begin(), m_places.end(), Place{row, at.Lon - m_reach.Lon, 0});
+      for (; next != m_places.end() && next->Row == row && next->Lon <= at.Lon + m_reach.Lon; ++next)
+        if (AreClose(at, m_ring[next->Vertex], m_tolerance)) close.push_back(next->Vertex);
+    }
     return close;
   }
 
 private:
+  static constexpr double Wider = 1.001;  // AreClose alone decides at the very edge
+  struct Place {
+    double Row = 0;
+    double Lon = 0;
+    std::size_t Vertex = 0;
+    bool operator<(const Place& other) const {
+      return std::tie(Row, Lon, Vertex) < std::tie(other.Row, other.Lon, other.Vertex);
+    }
+  };
+  double RowOf(const PolyPoint& point) const { return std::floor(point.Lat / m_reach.Lat); }
+
   const Ring& m_ring;
-  JoinTolerance m_tolerance;
-  std::vector<std::size_t> m_northward;
+  JoinTolerance m_tolerance, m_reach;
+  std::vector<Place> m_places;
 };
 
 /// Vertices First, First + 1, ... of one ring meet Partner, Partner - 1, ... of the other.

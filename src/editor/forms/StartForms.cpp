@@ -6,14 +6,25 @@
 #include "forms/frmPointsP.h"
 #include "forms/frmPolysP.h"
 #include "forms/frmStart.h"
+#include "ui_frmStart.h"
 
 namespace landsmith {
 
 namespace {
 
+constexpr int Margin = 12;
+
+/// To the right end of the canvas: in its middle stands what a walk or a search has come to.
+void PutAside(QDialog& form, const QWidget& canvas) {
+  form.adjustSize();
+  const QPoint corner = canvas.mapToGlobal(QPoint(canvas.width(), 0));
+  form.move(corner.x() - form.width() - Margin, corner.y() + Margin);
+}
+
 /// Shows a form that deletes itself when it is closed.
-void ShowBeside(QDialog& form) {
+void ShowBeside(QDialog& form, const QWidget& canvas) {
   form.setAttribute(Qt::WA_DeleteOnClose);
+  PutAside(form, canvas);
   form.show();
 }
 
@@ -47,7 +58,10 @@ void frmStart::ShowPolyProperties(std::optional<std::size_t> poly) {
 void frmStart::ShowFind() {
   if (!m_editor->HasProject()) return;
   auto* form = findChild<frmFind*>(QString(), Qt::FindDirectChildrenOnly);
-  if (!form) form = new frmFind(m_session, *m_editor, this);
+  if (!form) {
+    form = new frmFind(m_session, *m_editor, this);
+    PutAside(*form, *m_ui->canvas);
+  }
   form->show();
   form->raise();
   form->activateWindow();
@@ -57,14 +71,14 @@ void frmStart::ShowGotoPosition() {
   if (!m_editor->HasProject()) return;
   auto* form = new frmPointsP(m_session, *m_editor, this);
   form->ShowGotoPosition();
-  ShowBeside(*form);
+  ShowBeside(*form, *m_ui->canvas);
 }
 
 void frmStart::ShowCoordinates() {
   if (!m_editor->HasProject()) return;
   auto* form = new frmPointsP(m_session, *m_editor, this);
   form->ShowCoordinates();
-  ShowBeside(*form);
+  ShowBeside(*form, *m_ui->canvas);
 }
 
 void frmStart::ShowPointForm(const PopupTarget& point) {
@@ -72,7 +86,7 @@ void frmStart::ShowPointForm(const PopupTarget& point) {
   FollowPoint({});
   auto* form = new frmPoints0P(m_session, *m_editor, this);
   form->ShowPoint(point);
-  ShowBeside(*form);
+  ShowBeside(*form, *m_ui->canvas);
   m_editor->StartWalk(point, WalkView::Keep);
 }
 

@@ -9,6 +9,7 @@
 #include "ui_frmCalibrate.h"
 
 #include <QPointer>
+#include <QTimer>
 
 #include <limits>
 
@@ -80,6 +81,8 @@ void frmCalibrate::Open(Session& session, Editor& editor, std::size_t map, QWidg
   auto* form = new frmCalibrate(session, editor, map, parent);
   form->setAttribute(Qt::WA_DeleteOnClose);
   form->show();
+  // Whoever asked for the form is still closing and hands the focus back to the window.
+  QTimer::singleShot(0, form, [form] { form->activateWindow(); });
 }
 
 void frmCalibrate::done(int result) {
@@ -98,6 +101,7 @@ bool frmCalibrate::CheckMap() {
 void frmCalibrate::Pick(std::size_t point, PickKind kind) {
   if (!CheckMap()) return;
   m_picking = true;
+  m_place = pos();
   hide();
   m_editor.PickPoint([form = QPointer<frmCalibrate>(this), point, kind](const PointerInput& in) {
     if (form) form->TakePick(point, kind, in);
@@ -106,6 +110,7 @@ void frmCalibrate::Pick(std::size_t point, PickKind kind) {
 
 void frmCalibrate::TakePick(std::size_t point, PickKind kind, const PointerInput& in) {
   m_picking = false;
+  move(m_place);  // some window managers place a window anew each time
   show();
   raise();
   activateWindow();

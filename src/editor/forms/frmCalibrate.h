@@ -57,6 +57,7 @@ private:
   std::size_t m_map;
   std::filesystem::path m_bitmap;  ///< what is being calibrated
   bool m_picking = false;
+  QPoint m_place;  ///< of the form while it is hidden
 };
 
 }  // namespace landsmith

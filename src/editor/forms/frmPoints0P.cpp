@@ -40,8 +40,11 @@ void frmPoints0P::ShowExtended() {
   auto* extended = new frmPointsP(m_session, m_editor, parentWidget());
   extended->setAttribute(Qt::WA_DeleteOnClose);
   extended->ShowPoint(Target());
+  extended->adjustSize();
+  extended->move(pos().x() + width() - extended->width(), pos().y());
+  reject();  // first: the system gives the keyboard to the window behind
   extended->show();
-  reject();
+  extended->activateWindow();
 }
 
 }  // namespace landsmith

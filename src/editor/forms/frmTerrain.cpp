@@ -2,6 +2,8 @@
 
 #include "core/Color.h"
 #include "forms/QtText.h"
+#include "forms/TexBitmap.h"
+#include "platform/Paths.h"
 #include "ui_frmTerrain.h"
 
 #include <utility>
@@ -18,14 +20,18 @@ QString TitleOf(TextureKind kind) {
 }  // namespace
 
 frmTerrain::frmTerrain(Session& session, TextureKind kind, QWidget* parent)
-    : frmTerrain(session, TitleOf(kind), CatalogOf(session, kind), CurrentTextureOf(session, kind), parent) {
-  m_kind = kind;
-}
+    : frmTerrain(session, TitleOf(kind), CatalogOf(session, kind), kind, CurrentTextureOf(session, kind),
+                 parent) {}
 
 frmTerrain::frmTerrain(Session& session, const QString& title, TextureCatalog items, std::size_t current,
                        QWidget* parent)
+    : frmTerrain(session, title, std::move(items), std::nullopt, current, parent) {}
+
+frmTerrain::frmTerrain(Session& session, const QString& title, TextureCatalog items,
+                       std::optional<TextureKind> kind, std::size_t current, QWidget* parent)
     : QDialog(parent),
       m_session(session),
+      m_kind(kind),
       m_items(std::move(items)),
       m_preview(session),
       m_ui(std::make_unique<Ui::frmTerrain>()) {
@@ -48,7 +54,10 @@ void frmTerrain::ShowEntry(int row) {
   const TextureItem& item = m_items[static_cast<std::size_t>(row)];
   m_ui->lbTex->SetColor(Rgb(item.R, item.G, item.B));
   m_ui->lbPack->setText(ToQString(TextureText(item)));
-  const QPixmap picture = m_preview.LoadFromCatalog(item.Textures);
+  // The pictures of a catalogue are the simulator's; those of another list have been converted before.
+  const auto plain = FindInFolder(m_session.folders.Bitmaps(), item.Textures);
+  const QPixmap picture =
+      m_kind || !plain ? m_preview.LoadFromCatalog(item.Textures) : LoadTexBitmap(m_preview, *plain);
   m_ui->imgTex->setPixmap(
       picture.isNull() ? picture : picture.scaled(256, 256, Qt::KeepAspectRatio, Qt::SmoothTransformation));
 }

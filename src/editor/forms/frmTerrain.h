@@ -34,6 +34,8 @@ public:
   void accept() override;
 
 private:
+  frmTerrain(Session& session, const QString& title, TextureCatalog items, std::optional<TextureKind> kind,
+             std::size_t current, QWidget* parent);
   void ShowEntry(int row);
 
   Session& m_session;
