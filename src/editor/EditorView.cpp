@@ -9,6 +9,11 @@ namespace landsmith {
 void Editor::AfterViewChange() {
   m_display.DisplayAll();
   ShowStatus();
+  // Other places lie under the mouse now.
+  if (m_context.measure.Started())
+    ShowMeasure();
+  else
+    HideHoverLabel(m_context);
 }
 
 /// A step of the wheel: about the display centre, or, where the setting says so, about the mouse.
