@@ -11,7 +11,7 @@ namespace landsmith {
 HintLabel::HintLabel(const QString& name) {
   setObjectName(name);
   setTextFormat(Qt::PlainText);
-  setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
 void HintLabel::Show(std::string_view hint) {
