@@ -60,9 +60,7 @@ void Editor::SnapToLod21() {
       result = SnapSelectedToLod21(edit.Project());
       RecountSelection(m_session.project, m_session.tool.Selected);
     }
-    m_session.dialogs.Message(MessageKind::Info, std::to_string(result.Verified) + " points verified !\n" +
-                                                     std::to_string(result.Eliminated) +
-                                                     " points eliminated !");
+    m_session.dialogs.Message(MessageKind::Info, SnapReport(result));
   });
   m_host.RefreshUi();
 }
