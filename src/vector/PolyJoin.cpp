@@ -188,11 +188,11 @@ bool BeginAway(Ring& first, const Ring& second, const JoinTolerance& tolerance) 
 /// Vertices at one place are a border whatever else lies within the tolerance, which may be wider than an
 /// edge is long.
 std::optional<CommonBorder> FindBorder(Ring& first, const Ring& second, const JoinTolerance& tolerance) {
-  if (BeginAway(first, second, OnePlace))
-    if (const auto border = BorderSearch(first, second, OnePlace).Find())
-      return BorderSearch(first, second, tolerance).Extended(*border);
-  if (!BeginAway(first, second, tolerance)) return {};
-  return BorderSearch(first, second, tolerance).Find();
+  const bool away = BeginAway(first, second, tolerance);
+  const BorderSearch search(first, second, tolerance);
+  if (away || BeginAway(first, second, OnePlace))
+    if (const auto border = BorderSearch(first, second, OnePlace).Find()) return search.Extended(*border);
+  return away ? search.Find() : std::nullopt;
 }
 
 /// Between two runs of close vertices lies a gap or an overlap; half as large as one of the polygons, it is
