@@ -62,9 +62,7 @@ void Editor::SnapToLod21() {
       RecountSelection(m_session.project, m_session.tool.Selected);
     }
     ShowToolState();
-    m_session.dialogs.Message(MessageKind::Info, std::to_string(result.Verified) + " points verified !\n" +
-                                                     std::to_string(result.Eliminated) +
-                                                     " points eliminated !");
+    m_session.dialogs.Message(MessageKind::Info, SnapReport(result));
   });
   m_host.RefreshUi();
 }
