@@ -55,11 +55,13 @@ void Editor::SnapToLod21() {
     return;
   Guard([&] {
     SnapResult result;
+    m_host.SetCursor(CursorShape::Busy);
     {
       Edit edit(m_session, m_display);
       result = SnapSelectedToLod21(edit.Project());
       RecountSelection(m_session.project, m_session.tool.Selected);
     }
+    ShowToolState();
     m_session.dialogs.Message(MessageKind::Info, SnapReport(result));
   });
   m_host.RefreshUi();

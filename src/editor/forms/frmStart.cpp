@@ -183,7 +183,9 @@ void frmStart::ShowHoverLabel(std::string_view text, PixelPoint at) {
   if (text.empty()) return;
   m_mouseLabel->setText(ToQString(text));
   m_mouseLabel->adjustSize();
-  m_mouseLabel->move(at.x, at.y);
+  // Whole at the edges of the canvas too.
+  const QSize room = m_ui->canvas->size() - m_mouseLabel->size();
+  m_mouseLabel->move(std::max(0, std::min(at.x, room.width())), std::max(0, std::min(at.y, room.height())));
 }
 
 void frmStart::changeEvent(QEvent* event) {
