@@ -198,6 +198,7 @@ TEST(JoinTwoPolys, TakesOrRefusesWhatLiesSideBySide) {
       {"a vertex in front of the border is close to it too",
        Corners({{0, 0}, {0, 3.1}, {2.997, 3.003}, {3, 3}, {3, 2.997}, {3, 0}}),
        Corners({{3, 3}, {5, 3}, {5, 0}, {3, 0}, {3, 2.997}}), "", 9.15435 + 6, 7},
+      {"a gap as wide as the second", square, Corners({{3.004, 0}, {3.004, 3}, {3.008, 1.5}}), refused, 0, 0},
       {"far apart", square, Corners({{7, 0}, {8, 0}, {8, 3}}), refused, 0, 0},
       {"one upon the other", square, square, refused, 0, 0},
       {"one inside the other", square, Corners({{0, 0}, {3, 0}, {2, 1}}), refused, 0, 0},
