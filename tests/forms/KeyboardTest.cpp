@@ -3,7 +3,6 @@
 #include "forms/ShortcutTable.h"
 
 #include <QDialog>
-#include <QMenu>
 #include <QTextBrowser>
 #include <QTimer>
 
@@ -189,12 +188,6 @@ TEST_F(Keyboard, ComesBackToTheCanvas) {
     EXPECT_TRUE(text.contains(QLatin1String(part))) << part;
   QTest::keyClick(keys, Qt::Key_Escape);
   EXPECT_TRUE(atTheCanvas()) << "after a window beside it";
-
-  rig.Click(0, 0, Qt::RightButton);
-  auto* menu = rig.canvas->findChild<QMenu*>("mnuPUGeneral");
-  ASSERT_TRUE(menu->isVisible());
-  menu->close();
-  EXPECT_TRUE(atTheCanvas()) << "after a menu";
 }
 
 }  // namespace

@@ -8,13 +8,13 @@ namespace landsmith {
 
 class FocusReturn final : public QObject {
 public:
-  /// `home` gets the keyboard back when `window` becomes active and when a dialog or menu of it closes.
+  /// `home` gets the keyboard back when `window` becomes active and when a dialog of it closes; the window
+  /// system itself returns it from a menu.
   FocusReturn(QWidget& window, QWidget& home);
 
   bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-  bool IsOurs(const QObject* watched) const;
   void Return();
 
   QWidget& m_window;

@@ -15,6 +15,7 @@ namespace {
 
 /// Maps of whole countries are larger than what the reader accepts by itself.
 constexpr int MaxPictureMegabytes = 2048;
+constexpr int SmallestCopy = 500;  ///< pixels; a copy of this size is made in no time
 constexpr std::uint64_t KeptBytes = 1ULL << 30;
 /// From this number of pixels on 8 bits stay 8 bits; smaller pictures are painted sooner from 32.
 constexpr qsizetype LargePicture = 1 << 20;
@@ -114,7 +115,10 @@ const Picture& PictureCache::Find(const std::filesystem::path& file) {
 
 bool PictureCache::Load(const std::filesystem::path& file) {
   const Picture& picture = Find(file);
-  if (!picture.IsNull()) picture.Halved(1);
+  int times = 0;
+  while (std::max(picture.Full().width(), picture.Full().height()) >> times > SmallestCopy)
+    ++times;
+  picture.Halved(times);
   return !picture.IsNull();
 }
 

@@ -41,8 +41,7 @@ public:
   /// The picture, decoded again when the file's time or size has changed since. A null picture for a file
   /// that cannot be shown. The reference holds until another file is asked for.
   const Picture& Find(const std::filesystem::path& file);
-  /// The same for a file that will be shown; false when it cannot be. The first and dearest of its smaller
-  /// copies is made at once: who opens a map waits anyway, who zooms out does not.
+  /// The same for a file that will be shown, its smaller copies with it; false when it cannot be.
   bool Load(const std::filesystem::path& file);
   /// Gives back the memory of pictures beyond a gigabyte, those first that were not asked for longest; never
   /// of those that are shown.

@@ -60,6 +60,22 @@ void SampleRows(QImage& image, const QImage& picture, const Samples& x, const Sa
   }
 }
 
+/// Pixel for pixel.
+void CopyRows(QImage& image, const QImage& picture, const Samples& x, const Samples& y) {
+  int at = y.first;
+  for (const int sourceRow : y.source) {
+    const auto* row = reinterpret_cast<const QRgb*>(picture.constScanLine(sourceRow)) + x.source.front();
+    auto* pixel = reinterpret_cast<QRgb*>(image.scanLine(at++)) + x.first;
+    std::transform(row, row + x.source.size(), pixel, [](QRgb color) { return 0xFF000000 | color; });
+  }
+}
+
+bool IsOneToOne(const Samples& samples) {
+  const auto& source = samples.source;
+  return !source.empty() && source.back() - source.front() == static_cast<int>(source.size()) - 1 &&
+         std::adjacent_find(source.begin(), source.end()) == source.end();
+}
+
 void PaintNearest(QImage& image, const QImage& picture, const Samples& x, const Samples& y) {
   if (picture.format() == QImage::Format_Indexed8) {
     const QList<QRgb> table = FullColorTable(picture);
@@ -70,6 +86,8 @@ void PaintNearest(QImage& image, const QImage& picture, const Samples& x, const 
     SampleRows(image, picture, x, y, [](QRgb& pixel, const uchar* row, int column) {
       pixel = Over(reinterpret_cast<const QRgb*>(row)[column], pixel);
     });
+  } else if (IsOneToOne(x)) {
+    CopyRows(image, picture, x, y);
   } else {
     SampleRows(image, picture, x, y, [](QRgb& pixel, const uchar* row, int column) {
       pixel = 0xFF000000 | reinterpret_cast<const QRgb*>(row)[column];
