@@ -10,9 +10,9 @@ namespace landsmith::test {
 
 namespace {
 
-constexpr std::array<std::string_view, 14> Words{"write",  "bytes",   "run",    "stdin",  "stdout",
-                                                 "stderr", "exit",    "json",   "file",   "same",
-                                                 "differ", "present", "absent", "picture"};
+constexpr std::array<std::string_view, 13> Words{"write",  "bytes",  "run",    "stdin", "stdout",
+                                                 "stderr", "exit",   "json",   "file",  "same",
+                                                 "differ", "absent", "picture"};
 
 [[noreturn]] void Fail(const std::filesystem::path& file, int number, const std::string& reason) {
   throw std::runtime_error(file.filename().string() + ":" + std::to_string(number) + ": " + reason);

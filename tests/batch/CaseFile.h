@@ -11,7 +11,6 @@
 //   file    FILE            the content, "|" lines with CR LF behind each
 //   same    FILE FILE       equal to the byte
 //   differ  FILE FILE       not so
-//   present FILE            exists
 //   absent  FILE            does not exist
 //   picture FILE WxH        a PNG of that size
 #pragma once

@@ -180,8 +180,8 @@ private:
     } else if (entry.Word == "same" || entry.Word == "differ") {
       const bool same = ReadWholeFile(Path(words.at(0))) == ReadWholeFile(Path(words.at(1)));
       EXPECT_EQ(same, entry.Word == "same") << entry.Rest;
-    } else if (entry.Word == "present" || entry.Word == "absent") {
-      EXPECT_EQ(std::filesystem::exists(Path(entry.Rest)), entry.Word == "present") << entry.Rest;
+    } else if (entry.Word == "absent") {
+      EXPECT_FALSE(std::filesystem::exists(Path(entry.Rest))) << entry.Rest;
     } else if (entry.Word == "picture") {
       EXPECT_EQ(PictureSize(ReadWholeFile(Path(words.at(0)))), words.at(1));
     }

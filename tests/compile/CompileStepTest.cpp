@@ -139,15 +139,6 @@ TEST_F(CompileStepRun, AFailedCopyIsToldAndKeepsTheOutput) {
   }
 }
 
-TEST_F(CompileStepRun, SourceOnlyRunsNothingAndDropsTheStaleOutput) {
-  rig.options.Mode = CompileMode::SourceOnly;
-  OldOutput(std::string(Name) + ".BGL");
-  EXPECT_TRUE(CompileStep(rig.Context(), Request()));
-  EXPECT_TRUE(rig.tools.ran.empty());
-  EXPECT_FALSE(std::filesystem::exists(Work(".BGL")));
-  EXPECT_EQ(rig.report.Written, std::vector{Work(".scm")});
-}
-
 TEST_F(CompileStepRun, AProjectNameCannotLeadOutOfTheWorkFolder) {
   for (const char* name : {"../out/x", "..\\x", "C:x", "a\"b", "a|b", "a\nb"}) {
     CompileStepRequest request = Request();

@@ -51,12 +51,6 @@ TEST(Grid, RoundsToTheNearestPointButNeverIntoTheNextArea) {
   EXPECT_EQ(last.AreaX, 0);
 }
 
-TEST(Grid, MeasuresVerticesFromAReferenceCell) {
-  EXPECT_EQ(CellPointOfPosition(47.26, 11.34, {408, 121}), (CellPoint{5647, 8744}));
-  EXPECT_EQ(CellPointOfPosition(47.26, 11.34, {407, 122}), (CellPoint{13807, 584}));  // 8160 aside
-  EXPECT_EQ(CellPointOfPosition(40.5, -9.25, {364, 140}), (CellPoint{6256, 10608}));
-}
-
 TEST(Grid, KeepsTheLastPointOfAnAreaAtItsBorder) {
   const double west = -9.375;
   const CellIndex cell{364, 142};

@@ -33,19 +33,14 @@ TEST_F(SettingsFile, IsFilledWithDefaultsByAFirstRun) {
     std::string value;
   } rows[] = {
       {"Main", "DefLC", "11"},
-      {"Main", "LonLandCenter", "-10"},
       {"Main", "AreaPoints", "True"},
-      {"Main", "Mesh8", "False"},
       {"Main", "BGL1Folder", PathText(m_temp.Path()) + "\\scenery"},
-      {"Main", "UndoDepth", "5"},
       {"Photo", "PhotoCall", "LayerCall( :lcall 4 )"},
-      {"Photo", "SpringEnd", "169"},
       {"Photo", "HWinterStart", "-1"},
       {"BLN", "BLNSeparator", ","},
       {"Colors", "PolyFlattenColor", "32896"},    // 128 + 128 * 256
       {"Colors", "PolyExcludeColor", "4210752"},  // 64 * (1 + 256 + 65536)
       {"Tutorials", "Title5", "How to Make Photo Scenery ..."},
-      {"Tutorials", "Link1", "island tutorial.pdf"},
   };
   for (const auto& row : rows)
     EXPECT_EQ(Value(row.section, row.key), row.value) << row.key;
@@ -87,7 +82,6 @@ TEST_F(SettingsFile, GivesItsValues) {
   EXPECT_EQ(settings.Rwy12Path, "C:\\caf\u00E9");
   EXPECT_EQ(settings.BLNSeparator, "\t");
   EXPECT_EQ(settings.SaveDir, "C:\\x");
-  EXPECT_EQ(settings.Form(), CoordForm::DecimalDegrees);
 }
 
 TEST_F(SettingsFile, WithABadNumberIsAnErrorThatNamesThePlace) {
@@ -106,14 +100,12 @@ TEST_F(SettingsFile, KeepsWhatASaveDoesNotOwn) {
   settings.OpenDir = "C:\\b";
   settings.BLNSeparator = "\t";
   settings.Altitude2Change = 0.1f;
-  settings.DefAlt = -1.5;
   settings.PolyFill = false;
   SaveSettings(m_file, settings);
   EXPECT_EQ(Value("Photo", "SpringEnd"), "170");
   EXPECT_EQ(Value("RecentDirs", "OpenDir"), "C:\\a");
   EXPECT_EQ(Value("BLN", "BLNSeparator"), "\t");
   EXPECT_EQ(Value("Main", "Altitude2Change"), "0.1");
-  EXPECT_EQ(Value("Main", "DefAlt"), "-1.5");
   EXPECT_EQ(Value("Colors", "PolyFill"), "False");
   SaveRecentFolders(m_file, settings);
   EXPECT_EQ(Value("RecentDirs", "OpenDir"), "C:\\b");
@@ -121,27 +113,17 @@ TEST_F(SettingsFile, KeepsWhatASaveDoesNotOwn) {
   EXPECT_EQ(Load(), settings);  // every key went out and came back
 }
 
-TEST_F(SettingsFile, GetsSpringEndOnlyByALoad) {
-  SaveSettings(m_file, AppSettings{});
-  EXPECT_EQ(Value("Photo", "SpringEnd"), "");
-  Load();
-  EXPECT_EQ(Value("Photo", "SpringEnd"), "169");
-}
-
 TEST(Settings, AreSetByName) {
   AppSettings settings;
   SetByName(settings, "mesh8", "TRUE");
-  SetByName(settings, "DefPWidth", "20.5");
   SetByName(settings, "BLNSeparator", "tab");
   SetByName(settings, "PhotoCall", "");
   SetByName(settings, "title3", "x");
   EXPECT_TRUE(settings.Mesh8);
-  EXPECT_EQ(settings.DefPWidth, 20.5f);
   EXPECT_EQ(settings.BLNSeparator, "\t");
   EXPECT_EQ(settings.PhotoCall, "");
   EXPECT_EQ(settings.Title[2], "x");
   EXPECT_THROW(SetByName(settings, "Mesh8", ""), RuntimeError);
-  EXPECT_EQ(settings.DefPWidth, 20.5f);
 }
 
 }  // namespace

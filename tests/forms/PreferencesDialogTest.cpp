@@ -21,20 +21,24 @@ struct PreferencesDialog : testing::Test {
   }
 };
 
-TEST_F(PreferencesDialog, WidthLimitsKeepTheDialogOpen) {
-  struct Row {
-    const char *width, *message;
-    bool stored;
-  };
-  for (const Row& row : {Row{"256", "Maximum Line Width is 255 meters!", false},
-                         Row{"-0.5", "Minimum Line Width is 0 meters!", false}, Row{"255.5", "", true}}) {
-    rig.dialogs.messages.clear();
-    Type(dialog, "txtDefPWid", row.width);
-    Press(dialog, "cmdOK");
+TEST_F(PreferencesDialog, BadValuesKeepTheDialogOpenAndStoreNothing) {
+  const struct {
+    const char *box, *text, *message;
+  } rows[] = {{"txtDefPWid", "256", "Maximum Line Width is 255 meters!"},
+              {"txtDefPWid", "-0.5", "Minimum Line Width is 0 meters!"},
+              {"txtPhotoRange", "far", "\"far\" is no value for: range"}};
+  for (const auto& row : rows) {
+    frmPreferences fresh(rig.session, editor, nullptr);
+    Press(fresh, "ckAskDelete");
+    Type(fresh, row.box, row.text);
+    Press(fresh, "cmdOK");
     EXPECT_EQ(rig.LastMessage(), row.message);
-    EXPECT_EQ(dialog.result() == QDialog::Accepted, row.stored) << row.width;
-    EXPECT_EQ(std::filesystem::exists(rig.session.folders.IniPath()), row.stored) << row.width;
+    EXPECT_NE(fresh.result(), QDialog::Accepted) << row.text;
+    EXPECT_TRUE(rig.session.settings.AskDelete);
+    EXPECT_FALSE(std::filesystem::exists(rig.session.folders.IniPath())) << row.text;
   }
+  Type(dialog, "txtDefPWid", "255.5");  // the limit looks at the integer
+  Press(dialog, "cmdOK");
   EXPECT_EQ(rig.session.settings.DefPWidth, 255.5F);
 }
 
@@ -42,13 +46,10 @@ TEST_F(PreferencesDialog, OkStoresEveryPageAndWritesTheFile) {
   WriteWholeFile(rig.session.folders.IniPath(), "[Photo]\r\nSpringEnd=170\r\n");
   rig.dialogs.colors = {Rgb(1, 2, 3), std::nullopt};
   rig.dialogs.folders = {rig.folder / "out"};
-  Press(dialog, "ckAskDelete");
-  Press(dialog, "ckIgnoreDirection");
-  Press(dialog, "ckAutoLineJoin");
-  Press(dialog, "optDecimal");
-  Press(dialog, "lbLnColorSel");
-  Press(dialog, "lbLnColorUns");  // cancelled
-  Press(dialog, "cmdAPI");
+  // The second colour is cancelled.
+  for (const char* button : {"ckAskDelete", "ckIgnoreDirection", "ckAutoLineJoin", "optDecimal",
+                             "lbLnColorSel", "lbLnColorUns", "cmdAPI"})
+    Press(dialog, button);
   Type(dialog, "txtZbias", "-1.5");
   Type(dialog, "txtBLNSeparator", "tab");
   Type(dialog, "txtLink2", "guide.pdf");
@@ -106,26 +107,16 @@ TEST_F(PreferencesDialog, AChangedGridLimitHoldsInTheOpenProjectToo) {
   ProjectState& project = rig.session.project;
   project.ProjectOpen = true;
   project.ClassGridVIEW = true;
-  Press(dialog, "cmdOK");
-  EXPECT_TRUE(project.ClassGridVIEW) << "the project's own choice stays while the box is left alone";
-  frmPreferences again(rig.session, editor, nullptr);
-  Press(again, "ckClassGridVIEW");
-  Press(again, "cmdOK");
-  EXPECT_TRUE(project.ClassGridVIEW);
-  frmPreferences last(rig.session, editor, nullptr);
-  Press(last, "ckClassGridVIEW");
-  Press(last, "cmdOK");
-  EXPECT_FALSE(project.ClassGridVIEW);
+  const auto viewAfter = [&](bool press) {
+    frmPreferences fresh(rig.session, editor, nullptr);
+    if (press) Press(fresh, "ckClassGridVIEW");
+    Press(fresh, "cmdOK");
+    return project.ClassGridVIEW;
+  };
+  EXPECT_TRUE(viewAfter(false)) << "the project's own choice stays while the box is left alone";
+  EXPECT_TRUE(viewAfter(true));
+  EXPECT_FALSE(viewAfter(true));
   EXPECT_FALSE(rig.session.settings.ClassGridVIEW);
-}
-
-TEST_F(PreferencesDialog, ATextThatIsNoNumberIsNamedAndNothingIsStored) {
-  Press(dialog, "ckAskDelete");
-  Type(dialog, "txtPhotoRange", "far");
-  Press(dialog, "cmdOK");
-  EXPECT_EQ(rig.LastMessage(), "\"far\" is no value for: range");
-  EXPECT_NE(dialog.result(), QDialog::Accepted);
-  EXPECT_TRUE(rig.session.settings.AskDelete);
 }
 
 TEST_F(PreferencesDialog, TheMeshExplanationCanBeStoppedHalfway) {

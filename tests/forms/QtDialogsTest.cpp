@@ -12,24 +12,20 @@
 namespace landsmith {
 namespace {
 
-struct FilterRow {
-  const char* name;
-  const char* filter;
-  bool ignoreCase;
-  const char* entries;
-};
-
 TEST(FileDialogFilter, BecomesEntriesOfTheDialog) {
-  const std::array rows{
-      FilterRow{"the caption's pattern is not taken twice", "Landsmith (*.LSP)|*.LSP", false,
-                "Landsmith (*.LSP)"},
-      FilterRow{"both cases", "Landsmith (*.LSP)|*.LSP", true, "Landsmith (*.[lL][sS][pP])"},
-      FilterRow{"all files means those without a point too", "Surfer File (*.BLN)|*.BLN|All Files|*.*", false,
-                "Surfer File (*.BLN);;All Files (*)"},
-      FilterRow{"several patterns", "Pictures|*.BMP;*.TIF", false, "Pictures (*.BMP *.TIF)"},
-      FilterRow{"a caption without a pattern", "Odd", false, ""},
+  const struct {
+    const char* name;
+    const char* filter;
+    bool ignoreCase;
+    const char* entries;
+  } rows[] = {
+      {"both cases", "Landsmith (*.LSP)|*.LSP", true, "Landsmith (*.[lL][sS][pP])"},
+      {"all files means those without a point too", "Surfer File (*.BLN)|*.BLN|All Files|*.*", false,
+       "Surfer File (*.BLN);;All Files (*)"},
+      {"several patterns", "Pictures|*.BMP;*.TIF", false, "Pictures (*.BMP *.TIF)"},
+      {"a caption without a pattern", "Odd", false, ""},
   };
-  for (const FilterRow& row : rows)
+  for (const auto& row : rows)
     EXPECT_EQ(NameFilters(row.filter, row.ignoreCase).join(QStringLiteral(";;")).toStdString(), row.entries)
         << row.name;
 }
@@ -61,23 +57,20 @@ struct AnsweredBox {
   QMessageBox::Icon icon = QMessageBox::NoIcon;
 };
 
-struct QuestionRow {
-  QuestionKind kind;
-  QMessageBox::StandardButton pressed;
-  bool agreed;
-  QMessageBox::StandardButton byDefault;
-};
-
 TEST(MessageBoxes, AskWithTheRefusalAsDefault) {
-  const std::array rows{
-      QuestionRow{QuestionKind::YesNo, QMessageBox::Yes, true, QMessageBox::No},
-      QuestionRow{QuestionKind::YesNo, QMessageBox::No, false, QMessageBox::No},
-      QuestionRow{QuestionKind::YesNo, QMessageBox::NoButton, false, QMessageBox::No},  // Esc
-      QuestionRow{QuestionKind::OkCancel, QMessageBox::Ok, true, QMessageBox::Cancel},
-      QuestionRow{QuestionKind::OkCancel, QMessageBox::NoButton, false, QMessageBox::Cancel},
+  const struct {
+    QuestionKind kind;
+    QMessageBox::StandardButton pressed;
+    bool agreed;
+    QMessageBox::StandardButton byDefault;
+  } rows[] = {
+      {QuestionKind::YesNo, QMessageBox::Yes, true, QMessageBox::No},
+      {QuestionKind::YesNo, QMessageBox::No, false, QMessageBox::No},
+      {QuestionKind::OkCancel, QMessageBox::Ok, true, QMessageBox::Cancel},
+      {QuestionKind::OkCancel, QMessageBox::NoButton, false, QMessageBox::Cancel},  // Esc
   };
   QtDialogs dialogs;
-  for (const QuestionRow& row : rows) {
+  for (const auto& row : rows) {
     AnsweredBox box(row.pressed);
     EXPECT_EQ(dialogs.Ask(row.kind, "Delete <this> Line ?"), row.agreed);
     EXPECT_EQ(box.defaultButton, row.byDefault);

@@ -32,27 +32,17 @@ protected:
 };
 
 TEST_F(QtSurfaceTest, ABoxIsFramedOnItsOutermostPixels) {
-  surface.SetPen(Red, 1, PenStyle::Solid);
   surface.SetBrush(Green, BrushStyle::Solid);
+  surface.SetPen(Red, 1, PenStyle::Solid);
   surface.Box({2, 1, 6, 4});
-  EXPECT_EQ(Row(0, 8), "........");
-  EXPECT_EQ(Row(1, 8), "..rrrr..");
-  EXPECT_EQ(Row(2, 8), "..rggr..");
-  EXPECT_EQ(Row(3, 8), "..rrrr..");
-  EXPECT_EQ(Row(4, 8), "........");
-}
-
-TEST_F(QtSurfaceTest, BoxesOfOtherShapes) {
-  surface.SetBrush(Green, BrushStyle::Solid);
+  surface.Box({1, 6, 2, 7});  // one pixel is all frame
   surface.SetPen(Red, 1, PenStyle::None);
-  surface.Box({6, 2, 2, 1});  // corners given the other way round, no frame
-  surface.Box({2, 3, 2, 9});  // nothing inside
-  surface.SetPen(Red, 1, PenStyle::Solid);
-  surface.Box({1, 5, 2, 6});  // one pixel is all frame
-  EXPECT_EQ(Row(1, 8), "..gggg..");
-  EXPECT_EQ(Row(2, 8), "........");
-  EXPECT_EQ(Row(4, 8), "........");
-  EXPECT_EQ(Row(5, 8), ".r......");
+  surface.Box({6, 9, 2, 8});   // corners given the other way round, no frame
+  surface.Box({2, 9, 2, 12});  // nothing inside
+  const char* const rows[] = {"........", "..rrrr..", "..rggr..", "..rrrr..", "........",
+                              "........", ".r......", "........", "..gggg..", "........"};
+  for (int y = 0; y < 10; ++y)
+    EXPECT_EQ(Row(y, 8), rows[y]) << y;
 }
 
 TEST_F(QtSurfaceTest, APolygonThatRunsOverItselfLeavesAHole) {
@@ -63,8 +53,8 @@ TEST_F(QtSurfaceTest, APolygonThatRunsOverItselfLeavesAHole) {
   surface.Polygon(ring);
   EXPECT_EQ(surface.Pixel({5, 15}), Green);
   EXPECT_EQ(surface.Pixel({15, 15}), White);
-  EXPECT_EQ(surface.Pixel({25, 15}), Green);
   EXPECT_EQ(surface.Pixel({35, 15}), White);
+  EXPECT_EQ(surface.Pixel({-1, 15}), White) << "outside";
 }
 
 TEST_F(QtSurfaceTest, APolygonIsClosedAndHasNoBlendedEdge) {
@@ -80,97 +70,84 @@ TEST_F(QtSurfaceTest, APolygonIsClosedAndHasNoBlendedEdge) {
 }
 
 TEST_F(QtSurfaceTest, SpansAreCutToTheSurface) {
-  surface.SetPen(Red, 1, PenStyle::Solid);
   const std::vector<PixelSpan> spans{{-1, 0, 40}, {1, -5, 3}, {2, 38, 99}, {3, 4, 4}, {3, 7, 5}, {40, 0, 40}};
   surface.Spans(spans, Blue);
   EXPECT_EQ(Row(0, 5), ".....");
   EXPECT_EQ(Row(1, 5), "bbb..");
   EXPECT_EQ(Row(2, 40), std::string(38, '.') + "bb");
   EXPECT_EQ(Row(3, 40), std::string(40, '.'));
-  surface.Polyline(std::array<PixelPoint, 2>{{{0, 5}, {3, 5}}});
-  EXPECT_EQ(surface.Pixel({1, 5}), Red) << "the pen is as it was";
 }
 
-TEST_F(QtSurfaceTest, PixelsOutsideAreWhite) {
-  surface.Clear(Qt::black);
-  EXPECT_EQ(surface.Pixel({-1, 0}), White);
-  EXPECT_EQ(surface.Pixel({0, 40}), White);
-  EXPECT_EQ(surface.Pixel({39, 39}), 0);
-}
+/// With a picture of two pixels, the left one red and the right one blue.
+class QtSurfacePicture : public QtSurfaceTest {
+protected:
+  QtSurfacePicture() {
+    QImage picture(2, 1, QImage::Format_RGB32);
+    picture.setPixelColor(0, 0, Qt::red);
+    picture.setPixelColor(1, 0, Qt::blue);
+    Save(picture);
+  }
+  void Save(const QImage& picture) const { picture.save(QString::fromStdString(file.string())); }
+  /// Row 0 with the picture in this box.
+  std::string Shown(const PixelBox& box) {
+    surface.Image(file, box);
+    return Row(0, 8);
+  }
 
-/// A picture of two pixels, the left one red and the right one blue.
-std::filesystem::path RedAndBlue(const test::TempFolder& folder) {
-  QImage picture(2, 1, QImage::Format_RGB32);
-  picture.setPixelColor(0, 0, Qt::red);
-  picture.setPixelColor(1, 0, Qt::blue);
-  const std::filesystem::path file = folder / "two.bmp";
-  picture.save(QString::fromStdString(file.string()));
-  return file;
-}
-
-struct StretchRow {
-  const char* name;
-  PixelBox box;
-  const char* row;  ///< row 0 of the surface
+  test::TempFolder folder;
+  std::filesystem::path file = folder / "two.bmp";
 };
 
-TEST_F(QtSurfaceTest, AnImageFillsItsBoxAtAnyZoom) {
-  const test::TempFolder folder;
-  const std::filesystem::path file = RedAndBlue(folder);
-  const std::array rows{
-      StretchRow{"natural size", {3, 0, 3, 0}, "...rb..."},
-      StretchRow{"enlarged", {1, 0, 7, 2}, ".rrrbbb."},
-      StretchRow{"far larger than the surface, its middle at 2", {-1000000, 0, 1000004, 10}, "rrbbbbbb"},
-      StretchRow{"left half off the surface", {-3, 0, 3, 2}, "bbb....."},
+TEST_F(QtSurfacePicture, FillsItsBoxAtAnyZoom) {
+  const struct {
+    const char* name;
+    PixelBox box;
+    const char* row;
+  } rows[] = {
+      {"natural size", {3, 0, 3, 0}, "...rb..."},
+      {"enlarged", {1, 0, 7, 2}, ".rrrbbb."},
+      {"far larger than the surface, its middle at 2", {-1000000, 0, 1000004, 10}, "rrbbbbbb"},
+      {"left half off the surface", {-3, 0, 3, 2}, "bbb....."},
   };
-  for (const StretchRow& row : rows) {
+  for (const auto& row : rows) {
     surface.Clear(Qt::white);
-    surface.Image(file, row.box);
-    EXPECT_EQ(Row(0, 8), row.row) << row.name;
+    EXPECT_EQ(Shown(row.box), row.row) << row.name;
   }
 }
 
-TEST_F(QtSurfaceTest, APictureIsShownAsItsFileIsNow) {
-  const test::TempFolder folder;
-  const std::filesystem::path file = RedAndBlue(folder);
+TEST_F(QtSurfacePicture, IsShownAsItsFileIsNow) {
   surface.Image(folder / "missing.bmp", {0, 0, 4, 4});
   EXPECT_EQ(Row(0, 4), "....");
-  surface.Image(file, {0, 0, 0, 0});
-  EXPECT_EQ(Row(0, 4), "rb..");
-
-  QImage green(2, 1, QImage::Format_RGB32);
-  green.fill(Qt::green);
-  green.save(QString::fromStdString(file.string()));
-  std::filesystem::last_write_time(file, std::filesystem::last_write_time(file) + std::chrono::seconds(2));
-  surface.Image(file, {0, 0, 0, 0});
-  EXPECT_EQ(Row(0, 4), "gg..");
-
+  EXPECT_EQ(Shown({0, 0, 0, 0}), "rb......");
+  const auto later = std::filesystem::last_write_time(file) + std::chrono::seconds(2);
   // Another size within the clock's tick is another file too.
-  const auto written = std::filesystem::last_write_time(file);
-  green.scaled(3, 1).save(QString::fromStdString(file.string()));
-  std::filesystem::last_write_time(file, written);
-  surface.Image(file, {0, 0, 0, 0});
-  EXPECT_EQ(Row(0, 4), "ggg.");
+  for (const auto& [width, row] : {std::pair(2, "gg......"), std::pair(3, "ggg.....")}) {
+    QImage green(width, 1, QImage::Format_RGB32);
+    green.fill(Qt::green);
+    Save(green);
+    std::filesystem::last_write_time(file, later);
+    EXPECT_EQ(Shown({0, 0, 0, 0}), row);
+  }
 }
 
-TEST_F(QtSurfaceTest, APartOfAPictureGoesWhereItBelongs) {
-  const test::TempFolder folder;
-  const std::filesystem::path file = RedAndBlue(folder);
-  struct PartRow {
+TEST_F(QtSurfacePicture, PartGoesWhereItBelongs) {
+  const struct {
     const char* name;
     PixelBox source;
     FloatBox target;
     const char* row;
+  } rows[] = {
+      {"whole", {0, 0, 2, 1}, {1, 0, 4, 2}, ".rrbb..."},
+      {"second pixel", {1, 0, 2, 1}, {1, 0, 4, 2}, ".bbbb..."},
+      {"beyond the picture", {1, 0, 4, 1}, {-1, 0, 9, 2}, "bb......"},
+      {"a picture that begins later", {-1, 0, 2, 1}, {0, 0, 6, 2}, "..rrbb.."},
+      {"middles of pixels count", {0, 0, 2, 1}, {0.4F, 0, 3, 2}, "rrb....."},
+      {"nothing of it", {2, 0, 4, 1}, {0, 0, 4, 2}, "........"},
   };
-  for (const PartRow& part : {PartRow{"whole", {0, 0, 2, 1}, {1, 0, 4, 2}, ".rrbb..."},
-                              PartRow{"second pixel", {1, 0, 2, 1}, {1, 0, 4, 2}, ".bbbb..."},
-                              PartRow{"beyond the picture", {1, 0, 4, 1}, {-1, 0, 9, 2}, "bb......"},
-                              PartRow{"a picture that begins later", {-1, 0, 2, 1}, {0, 0, 6, 2}, "..rrbb.."},
-                              PartRow{"middles of pixels count", {0, 0, 2, 1}, {0.4F, 0, 3, 2}, "rrb....."},
-                              PartRow{"nothing of it", {2, 0, 4, 1}, {0, 0, 4, 2}, "........"}}) {
+  for (const auto& row : rows) {
     surface.Clear(Qt::white);
-    surface.ImagePart(file, part.source, part.target, PictureQuality::Smooth);
-    EXPECT_EQ(Row(0, 8), part.row) << part.name;
+    surface.ImagePart(file, row.source, row.target, PictureQuality::Smooth);
+    EXPECT_EQ(Row(0, 8), row.row) << row.name;
   }
 }
 
@@ -195,8 +172,6 @@ TEST_F(QtSurfaceTest, SmallerPicturesAreMeansOrExact) {
       EXPECT_EQ(mean.G, 0) << format;
       EXPECT_NEAR(mean.B, 128, 1) << format;
     }
-    EXPECT_EQ(surface.Pixel({1, 12}), White);
-    EXPECT_EQ(surface.Pixel({35, 12}), White);
   }
 }
 
@@ -227,16 +202,12 @@ TEST(QtSurfaceScaled, DrawsLogicalPixelsAsBlocks) {
   image.setDevicePixelRatio(2);
   QtSurface surface(image);
   surface.Clear(Qt::transparent);
-  EXPECT_EQ(surface.Width(), 10);
-  EXPECT_EQ(surface.Height(), 10);
-
   surface.SetPen(Red, 1, PenStyle::None);
   surface.SetBrush(Green, BrushStyle::Solid);
   surface.Box({1, 1, 3, 3});
   surface.Spans(std::array<PixelSpan, 1>{{{5, 1, 3}}}, Blue);
   EXPECT_EQ(image.pixelColor(1, 2).alpha(), 0);
-  EXPECT_EQ(FromQColor(image.pixelColor(2, 2)), Green);
-  EXPECT_EQ(FromQColor(image.pixelColor(5, 5)), Green);
+  EXPECT_EQ(FromQColor(image.pixelColor(2, 5)), Green);
   EXPECT_EQ(image.pixelColor(6, 5).alpha(), 0);
   EXPECT_EQ(FromQColor(image.pixelColor(5, 11)), Blue);
   EXPECT_EQ(image.pixelColor(5, 12).alpha(), 0);

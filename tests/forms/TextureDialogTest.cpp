@@ -18,10 +18,9 @@ struct TextureDialogs : testing::Test {
   TextureDialogs() {
     rig.session.lineTextures = {{12, "na.bmp", "Lane", "", 10, 20, 30},
                                 {40, "road.bmp", "Road", "", 1, 2, 3}};
-    QImage picture(8, 8, QImage::Format_RGB32);
-    picture.fill(Qt::red);
-    picture.save(QString::fromStdString((rig.session.folders.Bitmaps() / "na.bmp").string()));
-    picture.save(QString::fromStdString((rig.session.folders.Bitmaps() / "Road.BMP").string()));
+    for (const char* file : {"na.bmp", "Road.BMP"})
+      QImage(8, 8, QImage::Format_RGB32)
+          .save(QString::fromStdString((rig.session.folders.Bitmaps() / file).string()));
     WriteWholeFile(rig.session.folders.Tools() / "lines.txt", "[Texture.12]\r\n\r\n");
   }
 };

