@@ -156,6 +156,18 @@ calibrate() {
   xdotool key alt+c
   xdotool windowmove "$(dialog '^Landsmith - Calibrate Map$')" 760 420
   sleep 0.5
+  pick_point 927 349 224   # the western cape
+  pick_point 1179 705 561  # the southern one
+  at 1000 730
+}
+
+pick_point() {  # X of the buttons, X Y of the place: where it lies, then which pixel it is
+  click "$1" 525
+  click "$2" "$3"
+  sleep 0.5
+  click "$1" 609
+  click "$2" "$3"
+  sleep 0.5
 }
 
 # The desktop's own file of colours, as the window toolkit reads it.

@@ -30,7 +30,7 @@ struct OperationInput {
 };
 
 void SnapLod21(const OperationInput& input) {
-  SnapSelectedToLod21(input.Project);
+  input.Run.dialogs.Message(MessageKind::Info, SnapReport(SnapSelectedToLod21(input.Project)));
 }
 
 /// Calls `change` for each selected record and takes out those for which it returns false.

@@ -12,7 +12,7 @@ public:
   explicit CanvasMode(ModeContext& context) : m_context(context) {}
   void Hover(const PointerInput&) override { LabelSoon(m_context); }
   void Tick(TimerId timer) override {
-    if (timer == TimerId::Rubber) ShowLabelUnderMouse(m_context);
+    if (timer == TimerId::Label) ShowLabelUnderMouse(m_context);
   }
 
 protected:

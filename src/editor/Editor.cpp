@@ -35,17 +35,30 @@ bool Editor::Guard(const std::function<void()>& command) {
   }
 }
 
-void Editor::EndGesture() {
-  // Out of the member first: what the end repaints no longer shows the drag.
-  if (const auto gesture = std::exchange(m_gesture, nullptr)) gesture->Cancel();
+/// `end` says how: by End or by Cancel.
+void Editor::CloseGesture(const std::function<void(Gesture&)>& end) {
   m_dragByKey = false;
   m_host.StopTimer(TimerId::DragSettle);
   m_host.StopTimer(TimerId::DragRedraw);
+  // Out of the member first: what the end repaints no longer shows the drag.
+  auto gesture = std::exchange(m_gesture, nullptr);
+  if (!gesture) return;
+  Guard([&] { end(*gesture); });
+  gesture.reset();  // closes its edit; only then is there something to undo
+  m_host.RefreshUi();
+}
+
+void Editor::EndGesture() {
+  CloseGesture([](Gesture& gesture) { gesture.Cancel(); });
 }
 
 void Editor::SettleCanvas() {
   EndGesture();
+  const bool drawing = m_mode->IsDrawing();
   m_mode->Leave();
+  if (!drawing) return;
+  m_display.DisplayAll();
+  ShowToolState();
 }
 
 CursorShape Editor::CursorNow() const {

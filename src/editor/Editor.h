@@ -43,6 +43,7 @@ public:
   void Press(const PointerInput& in);
   void Move(const PointerInput& in);
   void Release(const PointerInput& in);
+  void PointerLeft();  ///< the mouse is no longer over the canvas
   /// `delta`: as the wheel tells it, 120 a notch; small steps are added up.
   void Wheel(int delta, const PointerInput& in);
   void KeyDown(const KeyInput& in);
@@ -128,6 +129,7 @@ public:
   bool CanRedo() const { return HasProject() && m_session.undo.CanRedo() && !GestureAlive(); }
 
 private:
+  void CloseGesture(const std::function<void(Gesture&)>& end);
   void EndGesture();
   void SettleCanvas();  ///< ends the drag and the figure under way, before a command changes the project
   void ReleaseGesture(const PointerInput& in);
@@ -176,7 +178,8 @@ private:
   std::function<void(const PointerInput&)> m_pick;  ///< waits for the next press
   std::string m_hint;
   int m_wheelRest = 0;
-  bool m_dragByKey = false;  ///< m_gesture ends when the key is released
+  bool m_dragByKey = false;   ///< m_gesture ends when the key is released
+  bool m_insertHeld = false;  ///< InsertPoints ends when the key is released
 };
 
 }  // namespace landsmith

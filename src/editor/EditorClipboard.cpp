@@ -17,6 +17,7 @@ std::optional<std::size_t> FirstSelected(const RecordList<Record>& records) {
 
 template <class Point>
 void MoveTo(PathRec<Point>& path, LatLon at) {
+  if (path.Points.empty()) return;  // a file may hold such a one
   const double dLon = at.lon - path.Points.front().Lon, dLat = at.lat - path.Points.front().Lat;
   for (Point& point : path.Points) {
     point.Lon += dLon;
@@ -77,7 +78,6 @@ void Editor::Paste() {
   if (!MayPaste()) return;
   SettleCanvas();
   m_session.tool.PasteArmed = true;
-  m_display.DisplayAll();
   ShowToolState();
   m_host.RefreshUi();
 }

@@ -55,14 +55,14 @@ void Editor::SnapToLod21() {
     return;
   Guard([&] {
     SnapResult result;
+    m_host.SetCursor(CursorShape::Busy);
     {
       Edit edit(m_session, m_display);
       result = SnapSelectedToLod21(edit.Project());
       RecountSelection(m_session.project, m_session.tool.Selected);
     }
-    m_session.dialogs.Message(MessageKind::Info, std::to_string(result.Verified) + " points verified !\n" +
-                                                     std::to_string(result.Eliminated) +
-                                                     " points eliminated !");
+    ShowToolState();
+    m_session.dialogs.Message(MessageKind::Info, SnapReport(result));
   });
   m_host.RefreshUi();
 }

@@ -58,7 +58,7 @@ bool Editor::UseArmedPress(const PointerInput& in) {
 }
 
 void Editor::Press(const PointerInput& in) {
-  m_host.StopTimer(TimerId::Rubber);
+  m_host.StopTimer(TimerId::Label);
   HideHoverLabel(m_context);
   if (!HasProject() || m_session.view.BusyPainting) return;
   if (m_gesture) {  // a second button during a drag ends it
@@ -107,9 +107,8 @@ void Editor::Move(const PointerInput& in) {
 }
 
 void Editor::Hover(const PointerInput& in) {
-  constexpr int measureMilliseconds = 20;
   if (!m_context.measure.Started()) return m_mode->Hover(in);
-  if (!m_host.StartTimer(TimerId::Rubber, measureMilliseconds)) ShowMeasure();
+  ShowMeasure();  // at once: a timer that each move starts anew would hold the line still
 }
 
 void Editor::ShowMeasure() {
@@ -120,12 +119,7 @@ void Editor::ShowMeasure() {
 }
 
 void Editor::ReleaseGesture(const PointerInput& in) {
-  m_dragByKey = false;
-  m_host.StopTimer(TimerId::DragSettle);
-  m_host.StopTimer(TimerId::DragRedraw);
-  // Out of the member first: what the end repaints no longer shows the drag.
-  const auto gesture = std::exchange(m_gesture, nullptr);
-  if (gesture) Guard([&] { gesture->End(in); });
+  CloseGesture([&in](Gesture& gesture) { gesture.End(in); });
 }
 
 void Editor::Release(const PointerInput& in) {
@@ -133,6 +127,12 @@ void Editor::Release(const PointerInput& in) {
   if (!m_gesture) return;
   ReleaseGesture(in);
   ShowToolState();
+}
+
+void Editor::PointerLeft() {
+  if (m_context.measure.Started()) return;  // what it tells is still true
+  m_host.StopTimer(TimerId::Label);
+  HideHoverLabel(m_context);
 }
 
 void Editor::Wheel(int delta, const PointerInput& in) {
@@ -151,9 +151,7 @@ void Editor::TimerTick(TimerId timer) {
   Guard([&] {
     if (m_gesture)
       m_gesture->Tick(timer);
-    else if (timer == TimerId::Rubber && m_context.measure.Started())
-      ShowMeasure();
-    else
+    else if (!m_context.measure.Started())
       m_mode->Tick(timer);
   });
 }
@@ -161,7 +159,9 @@ void Editor::TimerTick(TimerId timer) {
 void Editor::FocusLost() {
   ToolState& tool = m_session.tool;
   tool.PanKeyDown = tool.ZoomKeyDown = tool.CtrlKeyDown = false;
-  tool.InsertPoints = tool.DeletePoints = tool.BreakLine = tool.WidthDown = tool.WidthUp = false;
+  tool.DeletePoints = tool.BreakLine = tool.WidthDown = tool.WidthUp = false;
+  // Ins is not held, so it stays: a menu may be opened meanwhile.
+  if (std::exchange(m_insertHeld, false)) tool.InsertPoints = false;
   EndGesture();
   ShowToolState();
 }
@@ -171,7 +171,7 @@ bool Editor::KeyState(const KeyInput& in, bool down) {
   ToolState& tool = m_session.tool;
   switch (in.code) {
     case 'I':
-      tool.InsertPoints = down;
+      tool.InsertPoints = m_insertHeld = down;
       return true;
     case 'D':
       tool.DeletePoints = down;

@@ -128,13 +128,13 @@ bool Editor::MayMeasure() const {
 void Editor::StopMeasuring() {
   m_session.tool.MeasureOn = false;
   m_context.measure.Stop();
+  HideHoverLabel(m_context);
 }
 
 void Editor::ToggleMeasure() {
   if (!MayMeasure()) return;
   if (m_session.tool.MeasureOn) {
     StopMeasuring();
-    HideHoverLabel(m_context);
     m_display.RedrawTop();
   } else {
     m_session.tool.MeasureOn = true;

@@ -15,8 +15,13 @@ void Editor::ShowRestored() {
 
 void Editor::Undo() {
   if (!CanUndo()) return;
-  // What is half drawn belongs to the change that goes.
-  m_mode->Abandon();
+  // What is half drawn belongs to the change that goes. A first click alone is no change yet, and the one
+  // before it stays.
+  if (m_mode->Abandon()) {
+    m_display.RedrawTop();
+    ShowToolState();
+    return m_host.RefreshUi();
+  }
   if (auto before = m_session.undo.Undo(SnapshotOf(m_session)))
     RestoreSnapshot(m_session, std::move(*before));
   ShowRestored();

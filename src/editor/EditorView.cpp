@@ -9,6 +9,11 @@ namespace landsmith {
 void Editor::AfterViewChange() {
   m_display.DisplayAll();
   ShowStatus();
+  // Other places lie under the mouse now.
+  if (m_context.measure.Started())
+    ShowMeasure();
+  else
+    HideHoverLabel(m_context);
 }
 
 /// A step of the wheel: about the display centre, or, where the setting says so, about the mouse.
@@ -98,13 +103,19 @@ void Editor::SetClassGridView(bool on) {
 void Editor::SettingsChanged(bool centerChanged) {
   if (centerChanged) {
     const AppSettings& settings = m_session.settings;
-    ProjectState& project = m_session.project;
-    project.LatLandCenter = settings.LatLandCenter;
-    project.LonLandCenter = settings.LonLandCenter;
+    const auto take = [&settings](ProjectState& project) {
+      project.LatLandCenter = settings.LatLandCenter;
+      project.LonLandCenter = settings.LonLandCenter;
+    };
+    if (HasProject()) {
+      Edit edit(m_session, m_display, -1);
+      take(edit.Project());
+    } else {
+      take(m_session.project);
+    }
     m_session.view.Classes = ClassWindowOf(settings.LatLandCenter, settings.LonLandCenter);
     m_session.view.LatDispCenter = settings.LatLandCenter;
     m_session.view.LonDispCenter = settings.LonLandCenter;
-    if (HasProject()) project.Dirty = true;
   }
   UpdateScale(m_session.view);
   PanDisplay(m_session.view, 0, 0);

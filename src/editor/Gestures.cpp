@@ -84,7 +84,6 @@ void RubberBox::End(const PointerInput& in) {
   box.Add(b.lat, b.lon);
   SelectInBox(session.project, m_context.display.Index(), session.view, box, session.tool);
   Repaint();
-  m_context.host.RefreshUi();
 }
 
 void RubberBox::Cancel() {
@@ -147,7 +146,6 @@ void MoveDrag::Finish() {
 void MoveDrag::End(const PointerInput&) {
   JoinMovedFigure();
   Finish();
-  m_context.host.RefreshUi();
 }
 
 void MoveDrag::Cancel() {

@@ -59,7 +59,7 @@ void HideHoverLabel(ModeContext& context) {
 void LabelSoon(ModeContext& context) {
   if (context.session.settings.ShowLabels == 0) return;
   const int wait = context.labelShown ? ShownMilliseconds : HiddenMilliseconds;
-  if (!context.host.StartTimer(TimerId::Rubber, wait)) ShowLabelUnderMouse(context);
+  if (!context.host.StartTimer(TimerId::Label, wait)) ShowLabelUnderMouse(context);
 }
 
 void ShowLabelUnderMouse(ModeContext& context) {

@@ -15,7 +15,6 @@ namespace landsmith {
 
 namespace {
 
-constexpr int RubberMilliseconds = 20;
 constexpr int EscapeKey = 27;
 
 /// What drawing lines and drawing polygons differ in.
@@ -116,7 +115,6 @@ template <class Path>
 std::unique_ptr<Gesture> PathMode<Path>::Press(const PointerInput& in) {
   if (in.button == MouseButton::Left) return PressLeft(in);
   if (in.button != MouseButton::Right) return nullptr;
-  m_context.display.RedrawOverlay();
   if (IsDrawing()) {
     EndFigure();
     m_context.display.DisplayAll();
@@ -126,32 +124,31 @@ std::unique_ptr<Gesture> PathMode<Path>::Press(const PointerInput& in) {
   return nullptr;
 }
 
-/// A click near the edge makes its place the centre first. The result is where the click is then.
+/// A click near the edge makes its place the centre first. True when the view has moved; the caller repaints.
 template <class Path>
-PixelOffset PathMode<Path>::Recentred(PixelOffset at) {
+bool PathMode<Path>::Recentre(PixelOffset at) {
   ViewState& view = TheSession().view;
   const EditorHost& host = m_context.host;
-  if (!IsOutsideCenterBox(view, at, host.ToolbarHeight(), host.StatusBarHeight())) {
-    m_context.display.RedrawOverlay();
-    return at;
-  }
+  if (!IsOutsideCenterBox(view, at, host.ToolbarHeight(), host.StatusBarHeight())) return false;
   PanDisplay(view, at.x, at.y);
-  m_context.display.DisplayAll();
-  return {};
+  return true;
 }
 
+/// Paints once, whatever the press does: in a large project the lines in view take their time.
 template <class Path>
 std::unique_ptr<Gesture> PathMode<Path>::PressLeft(const PointerInput& in) {
-  const PixelOffset at = Recentred(in.at);
-  const ViewState& view = TheSession().view;
-  if (!IsDrawing()) {
-    bool used = false;
-    // The mouse is still where it was pressed, so a drag counts from there.
-    auto gesture = PressOnFigures(in, ToWorldPixel(view, at), used);
-    if (used) return gesture;
-  }
-  AddPoint(ToLatLon(view, at));
-  return nullptr;
+  const bool recentred = Recentre(in.at);
+  const PixelOffset at = recentred ? PixelOffset{} : in.at;
+  std::unique_ptr<Gesture> gesture;
+  bool used = false;
+  // The mouse is still where it was pressed, so a drag counts from there.
+  if (!IsDrawing()) gesture = PressOnFigures(in, ToWorldPixel(TheSession().view, at), used);
+  if (!used) AddPoint(ToLatLon(TheSession().view, at));
+  if (recentred)
+    m_context.display.DisplayAll();
+  else
+    m_context.display.RedrawOverlay();
+  return gesture;
 }
 
 /// A press while no figure is under way; `used` says that it begins none.
@@ -165,7 +162,8 @@ std::unique_ptr<Gesture> PathMode<Path>::PressOnFigures(const PointerInput& in, 
     Selection& selection = session.tool.Selected;
     auto& paths = session.project.*PathTool<Path>::List;
     const auto pieces = PiecesAt(at);
-    if (HitPoint(paths, pieces, at, session.view.Scale, selection)) return PressOnPoint(in);
+    if (HitPoint(paths, pieces, at, session.view.Scale, selection))
+      return EditSelectedPoint<Path>(m_context) ? nullptr : StartDrag(in);
     if (session.tool.InsertPoints) return InsertPoint(in, at);
     if (HitPath(paths, pieces, at, session.view.Scale, selection)) return StartDrag(in);
   }
@@ -189,13 +187,6 @@ std::unique_ptr<Gesture> PathMode<Path>::AddToSelection(const PointerInput& in, 
 }
 
 template <class Path>
-std::unique_ptr<Gesture> PathMode<Path>::PressOnPoint(const PointerInput& in) {
-  if (!EditSelectedPoint<Path>(m_context)) return StartDrag(in);
-  m_context.display.RedrawOverlay();
-  return nullptr;
-}
-
-template <class Path>
 std::unique_ptr<Gesture> PathMode<Path>::InsertPoint(const PointerInput& in, WorldPixel at) {
   Session& session = TheSession();
   const ViewScale& scale = session.view.Scale;
@@ -213,7 +204,6 @@ std::unique_ptr<Gesture> PathMode<Path>::InsertPoint(const PointerInput& in, Wor
 
 template <class Path>
 std::unique_ptr<Gesture> PathMode<Path>::StartDrag(const PointerInput& in) {
-  m_context.display.RedrawOverlay();
   return std::make_unique<MoveDrag>(m_context, in);
 }
 
@@ -235,7 +225,6 @@ void PathMode<Path>::AddPoint(LatLon at) {
       AppendPoint(paths.Edit(*m_item), at, PathTool<Path>::Third(session.settings));
     }
   }
-  m_context.display.RedrawOverlay();
 }
 
 /// A figure with too few vertices goes, and leaves nothing to undo.
@@ -261,13 +250,13 @@ template <class Path>
 void PathMode<Path>::Hover(const PointerInput& in) {
   m_mouseKnown = true;
   if (!IsDrawing()) return CanvasMode::Hover(in);
-  if (!m_context.host.StartTimer(TimerId::Rubber, RubberMilliseconds)) Tick(TimerId::Rubber);
+  // At once: a timer that each move starts anew would hold the segment still.
+  m_context.display.RedrawTop();
 }
 
 template <class Path>
 void PathMode<Path>::Tick(TimerId timer) {
-  if (!IsDrawing()) return CanvasMode::Tick(timer);
-  if (timer == TimerId::Rubber) m_context.display.RedrawTop();
+  if (!IsDrawing()) CanvasMode::Tick(timer);
 }
 
 template <class Path>
@@ -284,9 +273,9 @@ void PathMode<Path>::Leave() {
 }
 
 template <class Path>
-void PathMode<Path>::Abandon() {
-  m_first.reset();
+bool PathMode<Path>::Abandon() {
   m_item.reset();
+  return std::exchange(m_first, std::nullopt).has_value();
 }
 
 template <class Path>

@@ -25,7 +25,7 @@ public:
   bool Key(const KeyInput& in) override;
   void Tick(TimerId timer) override;
   void Leave() override;
-  void Abandon() override;
+  bool Abandon() override;
   bool IsDrawing() const override;
   CursorShape Cursor() const override;
   std::string Hint() const override;
@@ -35,10 +35,9 @@ private:
   std::unique_ptr<Gesture> PressLeft(const PointerInput& in);
   std::unique_ptr<Gesture> PressOnFigures(const PointerInput& in, WorldPixel at, bool& used);
   std::unique_ptr<Gesture> AddToSelection(const PointerInput& in, WorldPixel at);
-  std::unique_ptr<Gesture> PressOnPoint(const PointerInput& in);
   std::unique_ptr<Gesture> InsertPoint(const PointerInput& in, WorldPixel at);
   std::unique_ptr<Gesture> StartDrag(const PointerInput& in);
-  PixelOffset Recentred(PixelOffset at);
+  bool Recentre(PixelOffset at);
   void AddPoint(LatLon at);
   void EndFigure();
   LatLon LastPoint() const;

@@ -15,11 +15,13 @@ std::unique_ptr<Gesture> PointerMode::Press(const PointerInput& in) {
 
 std::unique_ptr<Gesture> PointerMode::PressLeft(const PointerInput& in) {
   Session& session = TheSession();
+  const bool selected = session.tool.Selected.SelectionActive;
   if (!in.shift) ClearSelection(session.project, session.tool);
   const bool hit =
       HitSelect(session.project, m_context.display.Index(), session.view, in.at, session.tool.Selected);
   if (!hit && session.tool.MeasureOn) {
     m_context.measure.Click(ToLatLon(session.view, in.at));
+    if (selected && !in.shift) m_context.display.DisplayAll();
     return nullptr;
   }
   if (!hit) return StartRubberBox(m_context, in, LayerMask::All);

@@ -35,6 +35,12 @@ std::int32_t CountMarked(const Records& records) {
       std::count_if(records.begin(), records.end(), [](const auto& record) { return record.Selected; }));
 }
 
+template <class Records>
+bool AreAllMarked(const Records& records) {
+  return !records.empty() &&
+         std::all_of(records.begin(), records.end(), [](const auto& record) { return record.Selected; });
+}
+
 template <class Record>
 void MarkInside(RecordList<Record>& records, const GeoBox& box, Selection& selection) {
   for (std::size_t i = 0; i < records.size(); ++i) {
@@ -73,6 +79,10 @@ void MarkCellsInside(ClassGrid& grid, const ClassWindow& window, const GeoBox& b
 
 std::int32_t CountCells(const ClassGrid& grid) {
   return grid.CountSet(IsSelectedCell);
+}
+
+bool AreCellsMarked(const ClassGrid& grid, std::int32_t count) {
+  return count > 0 && CountCells(grid) == count;
 }
 
 void DeleteCells(ClassGrid& grid, std::int32_t& count) {
@@ -138,6 +148,34 @@ void SelectAllOfKind(ProjectState& project, const ViewState& view, LayerKind kin
   if (kind == LayerKind::Grid || !view.Shows(kind)) return;
   MarkKind(project, kind, state, selection);
   RecountSelection(project, selection);
+}
+
+bool IsKindSelected(const ProjectState& project, LayerKind kind) {
+  switch (kind) {
+    case LayerKind::Maps:
+      return AreAllMarked(project.Maps);
+    case LayerKind::Meshes:
+      return AreAllMarked(project.Meshes);
+    case LayerKind::Lands:
+      return AreCellsMarked(project.Lands, project.NoOfLands);
+    case LayerKind::Waters:
+      return AreCellsMarked(project.Waters, project.NoOfWaters);
+    case LayerKind::Photos:
+      return AreAllMarked(project.Photos);
+    case LayerKind::Lines:
+      return AreAllMarked(project.Lines);
+    case LayerKind::Polys:
+      return AreAllMarked(project.Polys);
+    case LayerKind::Fills:
+      return AreAllMarked(project.Fills);
+    case LayerKind::Objects:
+      return AreAllMarked(project.Objects);
+    case LayerKind::Excludes:
+      return AreAllMarked(project.Excludes);
+    case LayerKind::Grid:
+      return false;
+  }
+  return false;
 }
 
 void SelectEverything(ProjectState& project, const ViewState& view, bool state, ToolState& tool) {

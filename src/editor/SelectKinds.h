@@ -17,6 +17,8 @@ void ClearSelection(ProjectState& project, ToolState& tool);
 /// Marks or clears every item of a kind; a kind that is hidden stays as it is.
 void SelectAllOfKind(ProjectState& project, const ViewState& view, LayerKind kind, bool state,
                      Selection& selection);
+/// Whether the kind has items, and each of them is selected as a whole.
+bool IsKindSelected(const ProjectState& project, LayerKind kind);
 /// Every kind that is shown, but no maps.
 void SelectEverything(ProjectState& project, const ViewState& view, bool state, ToolState& tool);
 /// Turns round lines, polygons, objects, photos and fills that are shown.

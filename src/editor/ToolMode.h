@@ -62,7 +62,7 @@ enum class CursorShape {
 enum class TimerId {
   DragSettle,  ///< until its tick a press on a selection is no drag
   DragRedraw,  ///< puts the repaints of quick moves together
-  Rubber,      ///< rubber segment of a figure under way, the measure, the label under the mouse
+  Label,       ///< the label under a mouse that rests
 };
 
 /// A drag. Exactly one of End and Cancel is called: release; or focus lost, mode changed, project replaced.
@@ -93,7 +93,9 @@ public:
   virtual CursorShape Cursor() const { return CursorShape::Arrow; }
   virtual bool IsDrawing() const { return false; }  ///< a figure is begun and not ended
   virtual void Leave() {}                           ///< ends what is half made
-  virtual void Abandon() {}  ///< forgets what is half made; the project is about to be restored
+  /// Forgets what is half made, since the project is about to be restored. True when nothing of it was in
+  /// the project yet: then there is no more to undo.
+  virtual bool Abandon() { return false; }
   /// What a click does at this moment, in a few words for the status bar: "Click: start a line".
   virtual std::string Hint() const { return {}; }
   virtual void Paint(Surface&) const {}  ///< rubber lines

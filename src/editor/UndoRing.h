@@ -36,7 +36,6 @@ public:
   bool CanUndo() const { return m_place > 0; }
   bool CanRedo() const { return m_place + 1 < m_states.size(); }
   std::size_t UndoCount() const { return m_place; }
-  std::size_t RedoCount() const { return CanRedo() ? m_states.size() - m_place - 1 : 0; }
 
   /// The state before the last change; `present` is kept for Redo. Nothing when there is none.
   std::optional<UndoSnapshot> Undo(UndoSnapshot present);

@@ -63,6 +63,11 @@ void SnapSelected(RecordList<Path>& paths, SnapResult& total, Snap snap) {
 
 }  // namespace
 
+std::string SnapReport(const SnapResult& result) {
+  return std::to_string(result.Verified) + " points verified !\n" + std::to_string(result.Eliminated) +
+         " points eliminated !";
+}
+
 SnapResult SnapSelectedToLod21(ProjectState& project) {
   SnapResult total;
   SnapSelected(project.Lines, total, SnapLine);

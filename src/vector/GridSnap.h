@@ -4,6 +4,7 @@
 #include "core/Project.h"
 
 #include <cstdint>
+#include <string>
 
 namespace landsmith {
 
@@ -11,6 +12,9 @@ struct SnapResult {
   std::int32_t Verified = 0;    ///< points looked at
   std::int32_t Eliminated = 0;  ///< points dropped because they met their neighbour
 };
+
+/// What the author is told afterwards.
+std::string SnapReport(const SnapResult& result);
 
 /// Selected lines go to the Points of their Cell, selected polygons to those of their Area. A line left
 /// without 2 points, a polygon without 3, is deleted. No question, no message.

@@ -20,6 +20,8 @@ using Ring = std::vector<PolyPoint>;
 
 constexpr std::string_view NotJoinable = "Polygons can not be joined!";
 constexpr std::size_t LeastBorder = 2;
+/// A tenth of a millimetre, what moving polygons in degrees may leave between vertices that were one.
+constexpr JoinTolerance OnePlace{1e-9, 1e-9};
 
 /// Answers which vertices of a ring are close to a position: they lie in rows a tolerance high, from west to
 /// east.
@@ -73,9 +75,8 @@ struct CommonBorder {
 /// away from the other.
 class BorderSearch {
 public:
-  BorderSearch(const Ring& first, const Ring& second, const JoinTolerance& tolerance,
-               const CloseVertices& close)
-      : m_first(first), m_second(second), m_tolerance(tolerance), m_close(close) {}
+  BorderSearch(const Ring& first, const Ring& second, const JoinTolerance& tolerance)
+      : m_first(first), m_second(second), m_tolerance(tolerance), m_close(second, tolerance) {}
 
   /// On the first stretch of vertices that are all close to some of the other ring, the run that fits best:
   /// where vertices stand closer together than the tolerance, several runs are possible.
@@ -85,7 +86,7 @@ public:
       const std::vector<std::size_t> partners = m_close.Of(m_first[k]);
       if (partners.empty() && best) break;
       for (const std::size_t partner : partners) {
-        if (AreClose(m_first[k - 1], m_second[(partner + 1) % m_second.size()], m_tolerance)) continue;
+        if (AreClose(m_first[k - 1], m_second[After(partner)], m_tolerance)) continue;
         const CommonBorder run = RunFrom(k, partner);
         if (run.Length >= LeastBorder && (!best || run.Fit > best->Fit)) best = run;
       }
@@ -93,12 +94,47 @@ public:
     return best;
   }
 
+  /// A border of vertices at one place goes on over pairs that are merely close while others at one place lie
+  /// behind them. At its ends it takes only pairs so close that they are one Point of the grid, and no more
+  /// than the pair: beyond a border the rings may part slowly, and what lies between is not theirs.
+  CommonBorder Extended(CommonBorder border) const {
+    for (std::size_t more = 1; border.First + border.Length + more <= m_first.size(); ++more) {
+      const std::size_t a = border.First + border.Length + more - 1;
+      const std::size_t b = Before(border.Partner, border.Length + more - 1);
+      if (border.Length + more > m_second.size() || !AreClose(m_first[a], m_second[b], m_tolerance)) break;
+      if (!AreOne(a, b)) continue;
+      border.Length += more;
+      more = 0;
+    }
+    for (std::size_t more = 1; more < border.First; ++more) {
+      const std::size_t a = border.First - more;
+      const std::size_t b = (border.Partner + more) % m_second.size();
+      if (border.Length + more > m_second.size() || !AreClose(m_first[a], m_second[b], m_tolerance)) break;
+      if (!AreOne(a, b)) continue;
+      border.First = a;
+      border.Partner = b;
+      border.Length += more;
+      more = 0;
+    }
+    return border;
+  }
+
 private:
+  std::size_t After(std::size_t partner) const { return (partner + 1) % m_second.size(); }
+  std::size_t Before(std::size_t partner, std::size_t steps) const {
+    return (partner + m_second.size() - steps % m_second.size()) % m_second.size();
+  }
+
+  bool AreOne(std::size_t a, std::size_t b) const {
+    if (AreClose(m_first[a], m_second[b], OnePlace)) return true;
+    return AreClose(m_first[a], m_second[b], JoinTolerance{}) && m_close.Of(m_first[a]).size() == 1;
+  }
+
   CommonBorder RunFrom(std::size_t first, std::size_t partner) const {
     CommonBorder run{first, partner, 0, 0};
     while (run.Length < m_second.size() && first + run.Length < m_first.size()) {
       const PolyPoint& a = m_first[first + run.Length];
-      const PolyPoint& b = m_second[(partner + m_second.size() - run.Length) % m_second.size()];
+      const PolyPoint& b = m_second[Before(partner, run.Length)];
       if (!AreClose(a, b, m_tolerance)) break;
       ++run.Length;
       run.Fit += 1 - std::max(std::fabs(a.Lon - b.Lon) / m_tolerance.Lon,
@@ -109,8 +145,8 @@ private:
 
   const Ring& m_first;
   const Ring& m_second;
-  const JoinTolerance& m_tolerance;
-  const CloseVertices& m_close;
+  JoinTolerance m_tolerance;
+  CloseVertices m_close;
 };
 
 /// Runs clockwise and repeats no vertex. False when there is no area left that it could enclose.
@@ -122,12 +158,53 @@ bool Prepare(Ring& ring) {
   return SignedRingArea(ring) != 0;
 }
 
-/// With a wide tolerance, vertices may be close without being a border. Then the joined ring loses or gains
-/// more than rims.
-bool AreasAddUp(double first, double second, double joined) {
-  const double a = std::fabs(first);
-  const double b = std::fabs(second);
-  return std::fabs(std::fabs(joined) - (a + b)) <= std::min(a, b) / 2;
+/// Whether the two edges cross inside both.
+bool EdgesCross(const PolyPoint& a, const PolyPoint& b, const PolyPoint& c, const PolyPoint& d) {
+  const auto side = [](const PolyPoint& from, const PolyPoint& to, const PolyPoint& at) {
+    return (to.Lon - from.Lon) * (at.Lat - from.Lat) - (at.Lon - from.Lon) * (to.Lat - from.Lat);
+  };
+  return side(a, b, c) * side(a, b, d) < 0 && side(c, d, a) * side(c, d, b) < 0;
+}
+
+/// Whether the edge from vertex `edge` crosses another of the ring.
+bool CrossesRing(const Ring& ring, std::size_t edge) {
+  const auto at = [&](std::size_t k) -> const PolyPoint& { return ring[k % ring.size()]; };
+  for (std::size_t k = edge + 2; k + 1 < edge + ring.size(); ++k)
+    if (EdgesCross(at(edge), at(edge + 1), at(k), at(k + 1))) return true;
+  return false;
+}
+
+/// The first ring from the vertex that has none close to it, so that no border runs over its end. False when
+/// there is no such vertex.
+bool BeginAway(Ring& first, const Ring& second, const JoinTolerance& tolerance) {
+  const CloseVertices close(second, tolerance);
+  const auto away = std::find_if(first.begin(), first.end(),
+                                 [&](const PolyPoint& point) { return close.Of(point).empty(); });
+  if (away == first.end()) return false;
+  RotatePolyStart(first, static_cast<std::size_t>(away - first.begin()));
+  return true;
+}
+
+/// Vertices at one place are a border whatever else lies within the tolerance, which may be wider than an
+/// edge is long.
+std::optional<CommonBorder> FindBorder(Ring& first, const Ring& second, const JoinTolerance& tolerance) {
+  const bool away = BeginAway(first, second, tolerance);
+  const BorderSearch search(first, second, tolerance);
+  if (away || BeginAway(first, second, OnePlace))
+    if (const auto border = BorderSearch(first, second, OnePlace).Find()) return search.Extended(*border);
+  return away ? search.Find() : std::nullopt;
+}
+
+/// Between two runs of close vertices lies a gap or an overlap; half as large as one of the polygons, it is
+/// no border of theirs.
+bool FitsBeside(const Ring& first, const Ring& second, const CommonBorder& border) {
+  Ring between;
+  for (std::size_t t = 0; t < border.Length; ++t)
+    between.push_back(first[border.First + t]);
+  for (std::size_t t = border.Length; t-- > 0;)
+    between.push_back(second[(border.Partner + second.size() - t) % second.size()]);
+  const double smaller = std::min(std::fabs(SignedRingArea(first)), std::fabs(SignedRingArea(second)));
+  return std::fabs(SignedRingArea(between)) <= smaller / 2;
 }
 
 struct JoinedRing {
@@ -142,16 +219,8 @@ JoinedRing Refused(std::string_view message) {
 JoinedRing JoinRings(Ring first, Ring second, const JoinTolerance& tolerance) {
   if (!Prepare(first)) return Refused("Fatal error in polygon 1!");
   if (!Prepare(second)) return Refused("Fatal error in polygon 2!");
-  const double firstArea = SignedRingArea(first);
-  const double secondArea = SignedRingArea(second);
-
-  const CloseVertices close(second, tolerance);
-  const auto away = std::find_if(first.begin(), first.end(),
-                                 [&](const PolyPoint& point) { return close.Of(point).empty(); });
-  if (away == first.end()) return Refused(NotJoinable);
-  RotatePolyStart(first, static_cast<std::size_t>(away - first.begin()));
-  const std::optional<CommonBorder> border = BorderSearch(first, second, tolerance, close).Find();
-  if (!border) return Refused(NotJoinable);
+  const std::optional<CommonBorder> border = FindBorder(first, second, tolerance);
+  if (!border || !FitsBeside(first, second, *border)) return Refused(NotJoinable);
 
   // The ends of the border stay as the first ring has them; what the second has beyond comes between them.
   RotatePolyStart(second, (border->Partner + 1) % second.size());
@@ -159,7 +228,9 @@ JoinedRing JoinRings(Ring first, Ring second, const JoinTolerance& tolerance) {
   const auto from = first.begin() + static_cast<std::ptrdiff_t>(border->First + 1);
   const auto to = from + static_cast<std::ptrdiff_t>(border->Length - LeastBorder);
   first.insert(first.erase(from, to), second.begin(), second.end());
-  if (!AreasAddUp(firstArea, secondArea, SignedRingArea(first))) return Refused(NotJoinable);
+  // Only the edges at the two ends are new. Close vertices that are no border make them cross the others.
+  if (CrossesRing(first, border->First) || CrossesRing(first, border->First + second.size()))
+    return Refused(NotJoinable);
   return {std::move(first), {}};
 }
 

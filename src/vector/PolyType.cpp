@@ -21,8 +21,12 @@ void TakeInto(std::string& field, std::string_view& rest) {
   if (!rest.empty()) field = TakePackedField(rest);
 }
 
+/// The first letter alone tells the kind.
 std::optional<LwmPolyType> DecodeLwm(std::string_view rest) {
-  const auto kind = std::find(LwmKindNames.begin(), LwmKindNames.end(), TakePackedField(rest));
+  const std::string_view name = TakePackedField(rest);
+  const auto kind = std::find_if(LwmKindNames.begin(), LwmKindNames.end(), [&](std::string_view known) {
+    return name.substr(0, 1) == known.substr(0, 1);
+  });
   if (kind == LwmKindNames.end()) return {};
   LwmPolyType lwm;
   lwm.Kind = static_cast<LwmKind>(kind - LwmKindNames.begin());

@@ -248,6 +248,9 @@ TEST_F(FileCommands, AppendingKeepsTheViewAndCountsAsSaved) {
   EXPECT_EQ(ReadIniKey(Ini(), "RecentDirs", "SurferDir"), PathText(folder.Path()));
   editor.Append("mp");
   EXPECT_EQ(dialogs.fileRequests.size(), 3U) << "a kind that cannot be read asks for no file";
+  editor.Undo();
+  EXPECT_EQ(Lines().size(), 1U);
+  EXPECT_TRUE(session.project.Dirty) << "no longer what was saved";
 }
 
 }  // namespace

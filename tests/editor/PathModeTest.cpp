@@ -77,6 +77,12 @@ TYPED_TEST(PathModeTest, UndoWhileDrawingTakesTheFigureAndTheNextClickBeginsAnot
   this->Click({-100, 0}).Click({0, 0}).Click({0, 50});
   this->editor.Undo();
   EXPECT_TRUE(this->Paths().empty());
+  this->editor.Redo();
+  this->Click({-100, 100});
+  this->editor.Undo();
+  EXPECT_EQ(this->Paths().size(), 1U) << "a first click alone goes before what is finished";
+  this->editor.Undo();
+  EXPECT_TRUE(this->Paths().empty());
   this->MoveTo({30, 30}).Click({50, 0}).Click({90, 0}).Click({90, 50}).Key(Escape);
   ASSERT_EQ(this->Paths().size(), 1U);
   EXPECT_EQ(this->Paths()[0].Points.size(), 3U);
@@ -142,7 +148,9 @@ TYPED_TEST(PathModeTest, IInsertsWhileHeldAndInsUntilTheNextKey) {
   EXPECT_EQ(this->session.undo.UndoCount(), 1U);
   this->KeyUp('I').Key(Insert).Click({-100, 1});
   EXPECT_EQ(this->Paths()[0].Points.size(), 5U) << "Ins works on its release";
-  this->KeyUp(Insert).Click({-100, 1}).Click({0, 150});
+  this->KeyUp(Insert);
+  this->editor.FocusLost();  // a menu has been opened
+  this->Click({-100, 1}).Click({0, 150});
   EXPECT_EQ(this->Paths()[0].Points.size(), 6U);
   EXPECT_EQ(this->Paths().size(), 1U) << "a miss begins no figure";
   this->Click({0, 150}, MouseButton::Right);
@@ -202,7 +210,9 @@ TEST_F(LineModeTest, TheRubberSegmentFollowsTheMouseWhileDrawing) {
 
 TEST_F(LineModeTest, AClickNearTheEdgeBecomesTheCentreFirst) {
   const LatLon place = At(380, 0);
+  const int presented = canvas.presented;
   Click({380, 0});
+  EXPECT_EQ(canvas.presented, presented + 1) << "painted once";
   EXPECT_NEAR(session.view.LonDispCenter, place.lon, 1e-12);
   Click({50, 0});
   ASSERT_EQ(Lines().size(), 1U);

@@ -186,11 +186,11 @@ TEST_F(PickingTest, LabelsNameObjectsThenLinesThenPolygonsInTheirModes) {
   session.project.Objects.Edit(0).Description = "0A|1|";
   host.hasTimers = true;
   MoveTo({1, 0});
-  EXPECT_EQ(host.running[TimerId::Rubber], 100);
-  editor.TimerTick(TimerId::Rubber);
+  EXPECT_EQ(host.running[TimerId::Label], 100);
+  editor.TimerTick(TimerId::Label);
   EXPECT_EQ(host.label, "Object #1");
   MoveTo({2, 0});
-  EXPECT_EQ(host.running[TimerId::Rubber], 500) << "while a label shows";
+  EXPECT_EQ(host.running[TimerId::Label], 500) << "while a label shows";
   Press({200, 0});
   EXPECT_EQ(host.label, "");
   EXPECT_TRUE(host.running.empty());

@@ -84,6 +84,7 @@ TEST_F(Canvas, AVertexIsDraggedWithTheMouse) {
   DrawRoad();
   const LinePoint before = Road().Points[1];
   const LinePoint last = Road().Points[3];
+  rig.session.undo.Reset();
   QTest::mousePress(rig.canvas, Qt::LeftButton, {}, rig.FromCentre(-30, 0));
   QTest::qWait(60);  // a press counts as a drag only after a moment
   for (const int y : {20, 40, 60})
@@ -93,9 +94,12 @@ TEST_F(Canvas, AVertexIsDraggedWithTheMouse) {
   EXPECT_NEAR(Road().Points[1].Lon, before.Lon, 1e-9);
   EXPECT_EQ(Road().Points[3].Lat, last.Lat);
   EXPECT_FALSE(rig.window->TheEditor().GestureAlive());
+  EXPECT_TRUE(rig.Action("mnuEUndo").isEnabled());
+  QTest::mouseClick(rig.canvas, Qt::MiddleButton, {}, rig.FromCentre(0, 0));
+  EXPECT_TRUE(rig.Action("mnuEUndo").isEnabled()) << "the end of a pan brings it back";
 }
 
-TEST_F(Canvas, AHeldKeyIsForgottenWhenTheFocusGoes) {
+TEST_F(Canvas, KeysCountWhereTheyWerePressed) {
   rig.ShowProject("Line");
   QTest::keyPress(rig.canvas, Qt::Key_P);
   EXPECT_TRUE(rig.session.tool.PanKeyDown);
@@ -104,6 +108,13 @@ TEST_F(Canvas, AHeldKeyIsForgottenWhenTheFocusGoes) {
   other.setFocus();
   QTest::keyRelease(&other, Qt::Key_P);
   EXPECT_FALSE(rig.session.tool.PanKeyDown);
+  rig.canvas->setFocus();
+  QTest::keyRelease(rig.canvas, Qt::Key_R);  // a letter that chose a command of a menu
+  EXPECT_FALSE(rig.session.tool.NextClickIsRight);
+  QTest::keyClick(rig.canvas, Qt::Key_Insert);
+  EXPECT_TRUE(rig.session.tool.InsertPoints);
+  QTest::keyClick(rig.canvas, Qt::Key_F5);
+  EXPECT_FALSE(rig.session.tool.InsertPoints) << "any key ends it";
 }
 
 TEST_F(Canvas, TheMiddleButtonPansWhileALineIsUnderWay) {
@@ -124,6 +135,7 @@ TEST_F(Canvas, TheRightButtonOpensTheMenuOfWhatIsThere) {
   rig.Button("Pointer").click();
   rig.Action("mnuSAll").trigger();
   EXPECT_TRUE(rig.Action("mnuEDelete").isEnabled());
+  EXPECT_TRUE(rig.Action("mnuSLines").isChecked()) << "all lines are selected";
   rig.Click(0, 0, Qt::RightButton);
   auto* objects = rig.canvas->findChild<QMenu*>("mnuPUObjects");
   ASSERT_TRUE(objects->isVisible());

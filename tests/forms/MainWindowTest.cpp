@@ -289,18 +289,30 @@ TEST_F(MainWindow, TheBitmapsOfTheMapsAreChosenInTheViewMenu) {
   EXPECT_FALSE(rig.window->findChild<QMenu*>("mnuVBitmap")->isEnabled());
 }
 
-TEST_F(MainWindow, AHintThatIsTooLongLeavesThePanelsTheirRoom) {
+TEST_F(MainWindow, AHintThatIsTooLongLeavesTheOthersTheirRoom) {
   rig.ShowProject();
-  rig.window->resize(1200, 500);
-  QTest::qWait(1);
-  auto* hint = rig.window->findChild<QLabel*>("sbHint");
-  EXPECT_FALSE(hint->text().isEmpty()) << "the tool tells what a click does";
-  const int right = rig.window->findChild<QLabel*>("sbSimulator")->geometry().right();
-  rig.window->SetHint(std::string(2000, 'x'));
-  QTest::qWait(1);
-  EXPECT_EQ(rig.window->findChild<QLabel*>("sbSimulator")->geometry().right(), right);
-  EXPECT_LE(hint->geometry().right(), 1200);
-  EXPECT_EQ(hint->toolTip().size(), 2000);
+  const auto right = [this](const char* name) {
+    return rig.window->findChild<QWidget*>(name)->geometry().right();
+  };
+  const struct {
+    int width;
+    const char *hint, *neighbour;
+    bool toolbar;
+  } rows[] = {{1200, "tbHint", "tbBGL", true}, {1600, "sbHint", "sbSimulator", false}};
+  for (const auto& row : rows) {
+    rig.window->resize(row.width, 500);
+    if (!row.toolbar) rig.Action("mnuVToolbar").trigger();
+    rig.window->SetHint("Click: select");
+    QTest::qWait(1);
+    auto* hint = rig.window->findChild<QLabel*>(row.hint);
+    EXPECT_TRUE(hint->isVisible() && hint->width() > 100) << row.hint << " " << hint->width();
+    const int before = right(row.neighbour);
+    rig.window->SetHint(std::string(2000, 'x'));
+    QTest::qWait(1);
+    EXPECT_EQ(right(row.neighbour), before) << row.neighbour;
+    EXPECT_EQ(rig.window->width(), row.width);
+    EXPECT_EQ(hint->toolTip().size(), 2000);
+  }
 }
 
 }  // namespace

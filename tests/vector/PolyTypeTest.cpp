@@ -19,6 +19,8 @@ TEST(PolyTypeText, IsReadAndWritten) {
       {"LWM//Flatten//7//7//1//1//", LwmPolyType{LwmKind::Flatten, "7", "7", "1", "1"},
        "LWM//Flatten//7//7//1//1//"},
       {"LWM//Water//9", LwmPolyType{LwmKind::Water, "9", "", "1", "1"}, "LWM//Water//9////1//1//"},
+      {"LWM//Flat//7//7//1//1//", LwmPolyType{LwmKind::Flatten, "7", "7", "1", "1"},
+       "LWM//Flatten//7//7//1//1//"},
       {"LWM//Kind//1//1//1//1//", UnknownPolyType{"LWM//Kind//1//1//1//1//"}, "LWM//Kind//1//1//1//1//"},
       {"VTP//9//1042//", VtpPolyType{"9", "1042"}, "VTP//9//1042//"},
       {"VTP////grass//", VtpPolyType{"", "grass"}, "VTP//4//grass//"},

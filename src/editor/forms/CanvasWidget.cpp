@@ -162,17 +162,25 @@ void CanvasWidget::wheelEvent(QWheelEvent* event) {
   event->accept();
   if (!m_editor) return;
   m_editor->Wheel(event->angleDelta().y(),
-                  ToPointer(event->position().toPoint(), MouseButton::None, event->modifiers()));
+                  ToPointer(event->position().toPoint(), HeldButton(event->buttons()), event->modifiers()));
+}
+
+void CanvasWidget::leaveEvent(QEvent* event) {
+  QWidget::leaveEvent(event);
+  if (m_editor) m_editor->PointerLeft();
 }
 
 void CanvasWidget::keyPressEvent(QKeyEvent* event) {
   const std::optional<KeyInput> key = ToKeyInput(*event);
   if (!m_editor || !key) {
+    // Whatever the key is for, it ends what lasts until the next key.
+    if (m_editor) m_editor->KeyDown({});
     QWidget::keyPressEvent(event);
     return;
   }
   // A held key repeats; only the arrows mean something each time.
   if (event->isAutoRepeat() && !IsArrow(key->code)) return;
+  m_down.insert(key->code);
   m_editor->KeyDown(*key);
 }
 
@@ -182,12 +190,15 @@ void CanvasWidget::keyReleaseEvent(QKeyEvent* event) {
     QWidget::keyReleaseEvent(event);
     return;
   }
-  if (!event->isAutoRepeat()) m_editor->KeyUp(*key);
+  if (event->isAutoRepeat()) return;
+  // A letter that chose a command in a menu or dialog is let go here, and means nothing.
+  if (m_down.erase(key->code) > 0) m_editor->KeyUp(*key);
 }
 
 void CanvasWidget::focusOutEvent(QFocusEvent* event) {
   QWidget::focusOutEvent(event);
   // The release of a held key will go to whoever has the focus now.
+  m_down.clear();
   if (m_editor) m_editor->FocusLost();
 }
 

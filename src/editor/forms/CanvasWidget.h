@@ -12,6 +12,7 @@
 
 #include <memory>
 #include <optional>
+#include <set>
 
 namespace landsmith {
 
@@ -44,6 +45,7 @@ protected:
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
+  void leaveEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
@@ -53,6 +55,7 @@ private:
   PointerInput ToPointer(QPoint at, MouseButton button, Qt::KeyboardModifiers modifiers) const;
 
   Editor* m_editor = nullptr;
+  std::set<int> m_down;  ///< keys whose press came here
   std::shared_ptr<PictureCache> m_pictures = std::make_shared<PictureCache>();
   QImage m_base, m_overlay, m_top;
   std::unique_ptr<QtSurface> m_baseSurface, m_overlaySurface, m_topSurface;

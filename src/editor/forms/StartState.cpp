@@ -1,5 +1,6 @@
 // What is enabled and checked in the main window, read from the editor's state each time.
 #include "core/Text.h"
+#include "editor/SelectKinds.h"
 #include "forms/QtText.h"
 #include "forms/StartTables.h"
 #include "forms/frmStart.h"
@@ -91,11 +92,11 @@ void frmStart::RefreshViewMenu() {
 }
 
 void frmStart::RefreshSelectMenu() {
-  const bool nothing = !m_session.tool.Selected.SelectionActive;
+  const bool any = m_session.tool.Selected.SelectionActive;
   for (const KindRow& row : KindTable) {
     QAction& item = Action(QStringLiteral("mnuS") + QLatin1String(row.key));
     item.setEnabled(m_editor->MaySelectKind(row.kind));
-    if (nothing) item.setChecked(false);
+    item.setChecked(any && IsKindSelected(m_session.project, row.kind));
   }
   for (QAction* all : {m_ui->mnuSAll, m_ui->mnuESelectAll}) {
     all->setEnabled(m_editor->MaySelectAll());

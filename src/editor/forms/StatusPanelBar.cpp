@@ -3,8 +3,6 @@
 #include "forms/QtText.h"
 
 #include <QFontMetrics>
-#include <QPainter>
-#include <QStyle>
 
 #include <array>
 
@@ -53,27 +51,6 @@ private:
   QString m_widest;
 };
 
-/// Asks for no room of its own.
-class Hint final : public QLabel {
-public:
-  Hint() {
-    setObjectName(QStringLiteral("sbHint"));
-    setTextFormat(Qt::PlainText);
-    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-  }
-  QSize sizeHint() const override { return {0, QFontMetrics(font()).height() + 2}; }
-  QSize minimumSizeHint() const override { return {0, 0}; }
-
-protected:
-  void paintEvent(QPaintEvent*) override {
-    QPainter painter(this);
-    const QRect room = rect().adjusted(4, 0, -4, 0);
-    const QString shown = QFontMetrics(font()).elidedText(text(), Qt::ElideRight, room.width());
-    style()->drawItemText(&painter, room, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(), shown,
-                          QPalette::WindowText);
-  }
-};
-
 }  // namespace
 
 StatusPanelBar::StatusPanelBar(QStatusBar& bar) {
@@ -81,15 +58,6 @@ StatusPanelBar::StatusPanelBar(QStatusBar& bar) {
     m_panels.push_back(new Panel(row));
     bar.addWidget(m_panels.back());
   }
-  m_hint = new Hint;
-  bar.addWidget(m_hint, 1);
-}
-
-void StatusPanelBar::ShowHint(std::string_view hint) {
-  const QString text = ToQString(hint);
-  if (text == m_hint->text()) return;
-  m_hint->setText(text);
-  m_hint->setToolTip(text);
 }
 
 void StatusPanelBar::Show(const StatusPanels& panels) {

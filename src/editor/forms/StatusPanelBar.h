@@ -6,7 +6,6 @@
 #include <QLabel>
 #include <QStatusBar>
 
-#include <string_view>
 #include <vector>
 
 namespace landsmith {
@@ -14,17 +13,14 @@ namespace landsmith {
 class StatusPanelBar {
 public:
   /// Fills `bar` with the panels, named "sbLat", "sbLon", "sbLod5", "sbCell", "sbArea", "sbPoint", "sbZoom",
-  /// "sbSimulator" and "sbExtra", and the hint, "sbHint".
+  /// "sbSimulator" and "sbExtra".
   explicit StatusPanelBar(QStatusBar& bar);
 
   void Show(const StatusPanels& panels);
-  /// A hint that is longer than its room ends in dots; its tip has the whole.
-  void ShowHint(std::string_view hint);
   void ShowSimulator(const ProgramFolders& folders);
 
 private:
   std::vector<QLabel*> m_panels;
-  QLabel* m_hint = nullptr;
 };
 
 }  // namespace landsmith

@@ -2,6 +2,7 @@
 
 #include "core/Text.h"
 #include "forms/FocusReturn.h"
+#include "forms/HintLabel.h"
 #include "forms/Icons.h"
 #include "forms/QtText.h"
 #include "forms/StartTables.h"
@@ -46,6 +47,13 @@ frmStart::frmStart(Session& session, QWidget* parent)
   setCentralWidget(m_ui->canvas);
   m_status = std::make_unique<StatusPanelBar>(*m_ui->statusBar);
   m_status->ShowSimulator(m_session.folders);
+  // Beside the tools there is room for it; the status bar serves while they are hidden.
+  m_toolHint = new HintLabel(QStringLiteral("tbHint"));
+  m_ui->toolBar->addSeparator();
+  m_ui->toolBar->addWidget(m_toolHint);
+  m_statusHint = new HintLabel(QStringLiteral("sbHint"));
+  m_ui->statusBar->addWidget(m_statusHint, 1);
+  m_statusHint->hide();
 
   m_mouseLabel = new QLabel(m_ui->canvas);
   m_mouseLabel->setObjectName(QStringLiteral("mouseLabel"));
@@ -113,7 +121,9 @@ void frmStart::PaintIcons() {
 }
 
 void frmStart::FitToolbar() {
-  m_ui->toolBar->setVisible(m_ui->mnuVToolbar->isChecked() && m_ui->canvas->width() >= ToolbarMinWidth);
+  const bool shown = m_ui->mnuVToolbar->isChecked() && m_ui->canvas->width() >= ToolbarMinWidth;
+  m_ui->toolBar->setVisible(shown);
+  m_statusHint->setVisible(!shown);
 }
 
 void frmStart::SetStatus(const StatusPanels& panels) {
@@ -129,7 +139,8 @@ void frmStart::SetCursor(CursorShape shape) {
 }
 
 void frmStart::SetHint(std::string_view hint) {
-  m_status->ShowHint(hint);
+  m_toolHint->Show(hint);
+  m_statusHint->Show(hint);
 }
 
 void frmStart::ShowContextMenu(const PopupTarget& target) {
@@ -172,7 +183,9 @@ void frmStart::ShowHoverLabel(std::string_view text, PixelPoint at) {
   if (text.empty()) return;
   m_mouseLabel->setText(ToQString(text));
   m_mouseLabel->adjustSize();
-  m_mouseLabel->move(at.x, at.y);
+  // Whole at the edges of the canvas too.
+  const QSize room = m_ui->canvas->size() - m_mouseLabel->size();
+  m_mouseLabel->move(std::max(0, std::min(at.x, room.width())), std::max(0, std::min(at.y, room.height())));
 }
 
 void frmStart::changeEvent(QEvent* event) {

@@ -24,6 +24,7 @@ class QTimer;
 
 namespace landsmith {
 
+class HintLabel;
 namespace Ui {
 class frmStart;
 }
@@ -106,6 +107,8 @@ private:
   std::unique_ptr<Ui::frmStart> m_ui;
   QHash<QString, QAction*> m_actions;
   std::unique_ptr<StatusPanelBar> m_status;
+  HintLabel* m_toolHint = nullptr;
+  HintLabel* m_statusHint = nullptr;
   std::unique_ptr<Editor> m_editor;
   std::unique_ptr<PopupMenus> m_popups;
   std::unique_ptr<RecoveryKeeper> m_recovery;
