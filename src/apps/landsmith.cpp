@@ -13,10 +13,34 @@
 
 #include <exception>
 #include <optional>
+#include <utility>
 
 namespace {
 
 using namespace landsmith;
+
+/// Commands catch their failures. What still comes out of an event is told, and the unsaved work lives on.
+class Application final : public QApplication {
+public:
+  Application(int& argc, char** argv, Dialogs& dialogs) : QApplication(argc, argv), m_dialogs(dialogs) {}
+
+  bool notify(QObject* receiver, QEvent* event) override {
+    try {
+      return QApplication::notify(receiver, event);
+    } catch (const std::exception& failure) {
+      // The box has events of its own, which may fail alike.
+      if (!std::exchange(m_telling, true)) {
+        m_dialogs.Message(MessageKind::Error, failure.what());
+        m_telling = false;
+      }
+      return true;
+    }
+  }
+
+private:
+  Dialogs& m_dialogs;
+  bool m_telling = false;
+};
 
 /// The project that a file manager passes, if any. `--help` and `--version` end the program here.
 std::optional<std::filesystem::path> ProjectArgument(const QApplication& app) {
@@ -50,12 +74,12 @@ int Run(const QApplication& app, QtDialogs& dialogs) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  QApplication app(argc, argv);
+  QtDialogs dialogs;
+  Application app(argc, argv, dialogs);
   QApplication::setApplicationName(QStringLiteral("Landsmith"));
   QApplication::setApplicationVersion(QStringLiteral(LANDSMITH_VERSION));
   QApplication::setStyle(QStringLiteral("Fusion"));
   QApplication::setWindowIcon(ProgramIcon());
-  QtDialogs dialogs;
   try {
     return Run(app, dialogs);
   } catch (const std::exception& failure) {

@@ -239,6 +239,7 @@ void PathMode<Path>::EndFigure() {
   if (paths[*item].Points.size() < PathTraits<Path>::LeastPoints) {
     Edit edit(session, m_context.display, -1, UndoPoint::Withdraw);
     (edit.Project().*PathTool<Path>::List).Erase(*item);
+    RecountSelection(session.project, session.tool.Selected);  // Invert may have marked it meanwhile
     return;
   }
   Edit edit(session, m_context.display, -1, UndoPoint::Share);

@@ -22,6 +22,11 @@ bool PassesBetween(double place1, double place2, double low, double high) {
   return (place1 >= low || place2 >= low) && (place1 <= high || place2 <= high);
 }
 
+/// A damaged file may hold any number, or none; the canvas needs a place.
+double OnEarth(double degrees, double limit) {
+  return std::abs(degrees) <= limit ? degrees : 0;
+}
+
 }  // namespace
 
 void UpdateScale(ViewState& view) {
@@ -116,12 +121,12 @@ int FillSizeOfGrid(int gridLod) {
 }
 
 void TakeViewFrom(ViewState& view, const ProjectState& project) {
-  view.LatDispCenter = project.LatDispCenter;
-  view.LonDispCenter = project.LonDispCenter;
-  view.Zoom = project.Zoom;
+  view.LatDispCenter = OnEarth(project.LatDispCenter, 90);
+  view.LonDispCenter = OnEarth(project.LonDispCenter, 180);
+  view.Zoom = project.Zoom > 0 ? std::clamp(project.Zoom, LeastZoomToHalve / 2, MaxZoom) : 1;
   UpdateScale(view);
   PanDisplay(view, 0, 0);
-  view.Classes = ClassWindowOf(project.LatLandCenter, project.LonLandCenter);
+  view.Classes = ClassWindowOf(OnEarth(project.LatLandCenter, 90), OnEarth(project.LonLandCenter, 180));
 }
 
 void StoreView(const ViewState& view, ProjectState& project) {

@@ -110,7 +110,8 @@ PixelOffset ToOffset(const ViewState& view, PixelPoint raw);
 /// Brush size of Fill mode for a grid level.
 int FillSizeOfGrid(int gridLod);
 
-/// Centre and zoom from and to the project that stores them; the class window follows the land centre.
+/// Centre and zoom from and to the project that stores them; the class window follows the land centre. A
+/// centre that is nowhere on the earth becomes 0, a zoom outside the canvas's steps the nearest of them.
 void TakeViewFrom(ViewState& view, const ProjectState& project);
 void StoreView(const ViewState& view, ProjectState& project);
 
