@@ -122,7 +122,7 @@ int FillSizeOfGrid(int gridLod) {
 
 void TakeViewFrom(ViewState& view, const ProjectState& project) {
   view.LatDispCenter = OnEarth(project.LatDispCenter, 90);
-  view.LonDispCenter = OnEarth(project.LonDispCenter, 180);
+  view.LonDispCenter = OnEarth(project.LonDispCenter, 540);  // a pan may have gone round
   view.Zoom = project.Zoom > 0 ? std::clamp(project.Zoom, LeastZoomToHalve / 2, MaxZoom) : 1;
   UpdateScale(view);
   PanDisplay(view, 0, 0);
