@@ -23,15 +23,14 @@ struct ProjectDialog : testing::Test {
 };
 
 TEST_F(ProjectDialog, EachPhotoControlHasItsBit) {
-  struct Row {
+  const struct {
     const char* control;
     std::int32_t options;  ///< with layer 5 and nothing else
-  };
-  const Row rows[] = {{"ckSummer", 0x501}, {"ckSpring", 0x502}, {"ckFall", 0x504},  {"ckWinter", 0x508},
-                      {"ckHard", 0x510},   {"ckNight", 0x520},  {"ckAlpha", 0x540}, {"ck8bit", 0x580},
-                      {"ckL8", 0x10500},   {"ckL9", 0x20500},   {"ckL10", 0x40500}, {"ckL11", 0x80500},
-                      {"opt24", 0x100500}, {"opt12", 0x500}};
-  for (const Row& row : rows) {
+  } rows[] = {{"ckSummer", 0x501}, {"ckSpring", 0x502}, {"ckFall", 0x504},  {"ckWinter", 0x508},
+              {"ckHard", 0x510},   {"ckNight", 0x520},  {"ckAlpha", 0x540}, {"ck8bit", 0x580},
+              {"ckL8", 0x10500},   {"ckL9", 0x20500},   {"ckL10", 0x40500}, {"ckL11", 0x80500},
+              {"opt24", 0x100500}, {"opt12", 0x500}};
+  for (const auto& row : rows) {
     Project().PhotoSeasons = 0x500;
     frmProjectP dialog(rig.session, rig.display, nullptr);
     Press(dialog, row.control);

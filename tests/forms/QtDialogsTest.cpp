@@ -7,8 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
-
 namespace landsmith {
 namespace {
 
@@ -45,7 +43,6 @@ struct AnsweredBox {
       title = box->windowTitle().toStdString();
       text = box->text().toStdString();
       defaultButton = box->standardButton(box->defaultButton());
-      icon = box->icon();
       if (button == QMessageBox::NoButton)
         box->reject();
       else
@@ -54,7 +51,6 @@ struct AnsweredBox {
   }
   std::string title, text;
   QMessageBox::StandardButton defaultButton = QMessageBox::NoButton;
-  QMessageBox::Icon icon = QMessageBox::NoIcon;
 };
 
 TEST(MessageBoxes, AskWithTheRefusalAsDefault) {
@@ -76,18 +72,6 @@ TEST(MessageBoxes, AskWithTheRefusalAsDefault) {
     EXPECT_EQ(box.defaultButton, row.byDefault);
     EXPECT_EQ(box.title, "Landsmith");
     EXPECT_EQ(box.text, "Delete <this> Line ?");
-  }
-}
-
-TEST(MessageBoxes, ShowTheKindAsIcon) {
-  QtDialogs dialogs;
-  const std::array kinds{std::pair{MessageKind::Info, QMessageBox::Information},
-                         std::pair{MessageKind::Warning, QMessageBox::Warning},
-                         std::pair{MessageKind::Error, QMessageBox::Critical}};
-  for (const auto& [kind, icon] : kinds) {
-    AnsweredBox box(QMessageBox::Ok);
-    dialogs.Message(kind, "text");
-    EXPECT_EQ(box.icon, icon);
   }
 }
 

@@ -64,9 +64,7 @@ TEST(QuadRasterAndPainter, SetTheSamePixels) {
       QImage painted = Paper(72, 72), spanned = painted.copy();
       PaintRing(painted, quad, 255, 255);
       QtSurface(spanned).Spans(spans, 255);
-      ASSERT_EQ(painted, spanned) << quad[0].x << ' ' << quad[0].y << ", " << quad[1].x << ' ' << quad[1].y
-                                  << ", " << quad[2].x << ' ' << quad[2].y << ", " << quad[3].x << ' '
-                                  << quad[3].y;
+      ASSERT_EQ(painted, spanned) << size << ' ' << i;
     }
   }
   EXPECT_GT(compared, 10000);
@@ -121,9 +119,8 @@ Roads MakeRoads(std::size_t lines) {
     line.Color = static_cast<std::int32_t>(random() & 0xFFFFFF);
     double x = part(random) * 900 - 450, y = part(random) * 700 - 350, heading = part(random) * 7;
     for (int k = 0; k < 10; ++k) {
-      const double width = std::pow(part(random), 3) * 40 / view.Scale.PixelsPerMeter;
-      line.Points.push_back(
-          {x / view.Scale.PixelsPerDegLon, y / view.Scale.PixelsPerDegLat, static_cast<float>(width), false});
+      const auto width = static_cast<float>(std::pow(part(random), 3) * 40 / view.Scale.PixelsPerMeter);
+      line.Points.push_back({x / view.Scale.PixelsPerDegLon, y / view.Scale.PixelsPerDegLat, width, false});
       heading += part(random) * 2 - 1;
       const double length = 1.5 + part(random) * part(random) * 60;
       x += length * std::cos(heading);

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 
 namespace landsmith {
 namespace {
@@ -18,11 +19,10 @@ using testing::AllOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-/// Imports a file with this content into an empty project.
-ProjectState Imported(std::string_view content, const AppSettings& settings) {
+/// Imports a file with this content.
+ProjectState Imported(std::string_view content, const AppSettings& settings, ProjectState project = {}) {
   const test::TempFolder folder;
   WriteWholeFile(folder / "a.bln", content);
-  ProjectState project;
   ImportBLN(folder / "a.bln", project, settings);
   return project;
 }
@@ -53,9 +53,7 @@ TEST(BlnText, TakesLooseLineEndsAndBlanks) {
   const auto items = ParseBln("2,a\n 1.5 , -2e1 , 7 \n3,4,,9\r\n1\r\n5,6,2.5\r\n\r\n  \n", ',', "a.bln");
   ASSERT_EQ(items.size(), 2U);
   const BlnPoint& first = items[0].Points[0];
-  EXPECT_EQ(first.Lon, 1.5);
-  EXPECT_EQ(first.Lat, -20);
-  EXPECT_EQ(first.Wid, 7);
+  EXPECT_EQ(std::tuple(first.Lon, first.Lat, first.Wid), std::tuple(1.5, -20.0, 7.0F));
   EXPECT_EQ(items[0].Points[1].Wid, 0) << "an empty third field is none";
   EXPECT_EQ(items[1].Points[0].Wid, 2.5F);
 }
@@ -92,7 +90,7 @@ TEST(BlnImport, ClosedItemsBecomePolygonsAndLines) {
   ASSERT_EQ(project.Polys.size(), 2U);
   const PolyRec& lake = project.Polys[0];
   EXPECT_EQ(lake.Name, "lake");
-  EXPECT_EQ(lake.Type, "LWM//Water//0//0//1//1//");
+  EXPECT_EQ(lake.Type, settings.BLNPolyType);
   EXPECT_EQ(lake.Color, 11);
   EXPECT_THAT(Lons(lake), ElementsAre(1, 2, 2));
   EXPECT_EQ(lake.Points[0].Alt, 0);
@@ -126,24 +124,16 @@ TEST(BlnImport, OpenItemsBecomeLines) {
   EXPECT_EQ(project.Lines[0].Box, (GeoBox{1.0000001, 1, 1, 2}));
   EXPECT_EQ(project.Lines[1].Name, "1_Points_Line");
 
+  settings.BLNSeparator = ";";
+  project = Imported("2;b\n1;1\n2;2\n2;c\n1;1\n2;2\n", settings, project);
+  ASSERT_EQ(project.Lines.size(), 4U) << "behind what is there, in the order of the file";
+  EXPECT_EQ(project.Lines[2].Name + project.Lines[3].Name, "bc");
+
+  settings.BLNSeparator = ",";
   settings.BLNWidths = false;
   project = Imported("3,road\n1,1,tarmac\n2,1\n1,2\n1\n8,8\n", settings);
   EXPECT_THAT(Widths(project.Lines[0]), ElementsAre(10, 15, 20)) << "nobody looks at the third field";
   EXPECT_THAT(Widths(project.Lines[1]), ElementsAre(10)) << "a single point takes the start width";
-}
-
-TEST(BlnImport, AppendsBehindWhatIsThereAndKeepsTheOrderOfTheFile) {
-  const test::TempFolder folder;
-  WriteWholeFile(folder / "a.bln", "2;b\n1;1\n2;2\n2;c\n1;1\n2;2\n");
-  ProjectState project;
-  project.Lines.emplace_back().Name = "a";
-  AppSettings settings;
-  settings.BLNSeparator = ";";
-  ImportBLN(folder / "a.bln", project, settings);
-  std::string names;
-  for (const LineRec& line : project.Lines)
-    names += line.Name;
-  EXPECT_EQ(names, "abc");
 }
 
 TEST(BlnSeparator, MayBeAWord) {

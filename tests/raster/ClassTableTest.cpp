@@ -21,9 +21,7 @@ TEST(ClassTableText, HasFixedColumns) {
   EXPECT_EQ(city.Code, 11);
   EXPECT_EQ(city.Texture, "001B2SU1.BMP");
   EXPECT_EQ(city.Text, "011 City Textures");
-  EXPECT_EQ(city.R, 150);
-  EXPECT_EQ(city.G, 120);
-  EXPECT_EQ(city.B, 7);
+  EXPECT_TRUE(city.R == 150 && city.G == 120 && city.B == 7);
   EXPECT_EQ(table.Items[2].Text, "104 Fjord \xC3\xA5");
   EXPECT_EQ(table.Items[3].Code, 0) << "behind the table nothing has a code";
 }

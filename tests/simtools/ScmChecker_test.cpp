@@ -90,17 +90,16 @@ TEST(ScmFaults, AreReportedWithLineAndReason) {
 }
 
 TEST(ScmChecker, HoldsPlacesToWhatTheFileCanHold) {
-  struct Row {
+  const struct {
     const char* place;
     std::int32_t x, y;
     const char* told;  ///< nothing for a place that fits
-  };
-  const Row rows[] = {
+  } rows[] = {
       {"0 16383", 0, 16383, ""},
       {"-1 16384", 0, 16383, "-1 16384 is held to 0 16383"},
       {"2147483647 -2147483648", 16383, 0, "2147483647 -2147483648 is held to 16383 0"},
   };
-  for (const Row& row : rows) {
+  for (const auto& row : rows) {
     SCOPED_TRACE(row.place);
     const CheckedSource checked = CheckScm(ParseScm(ReplaceAll(OneRoad, "5000 6000", row.place)));
     EXPECT_TRUE(checked.Errors.empty());

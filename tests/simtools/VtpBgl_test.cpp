@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace landsmith::simtools {
 
 using test::FeatureRead;
@@ -60,26 +62,23 @@ TEST(VtpBgl, GivesBackCellsLayersTexturesAndPoints) {
                                "\"a\" 1 0 0 4",
                                "\"Road.bmp\" 3 0 0 4",
                            }));
-  struct Expected {
+  const struct {
     int cellCol, cellRow, group;
     const char* texture;
     std::vector<LinePointRead> points;
-  };
-  const std::vector<Expected> expected{
+  } expected[] = {
       {401, 120, 13, "153", {{5000, 6000, 12}, {5012, 5993, 12}, {6034, 4971, 13}, {6033, 4971, 13}}},
       {401, 120, 13, "153", {{0, 16383, 0}, {16383, 0, 0}, {4080, 12240, 255}}},
       {401, 120, 63, "\"road 1.bmp\" 15 0 0 255", {{1, 2, 3}}},
       {401, 120, 63, file.TexNames[1].c_str(), {{4, 5, 6}}},
       {767, 511, 0, "\"a\" 1 0 0 4", {{9, 9, 7}, {-1013, 1031, 1}}},
   };
-  ASSERT_EQ(file.Features.size(), expected.size());
-  for (std::size_t i = 0; i < expected.size(); ++i) {
+  ASSERT_EQ(file.Features.size(), std::size(expected));
+  for (std::size_t i = 0; i < std::size(expected); ++i) {
     SCOPED_TRACE(i);
     const FeatureRead& feature = file.Features[i];
-    EXPECT_EQ(feature.Kind, 1);
-    EXPECT_EQ(feature.CellCol, expected[i].cellCol);
-    EXPECT_EQ(feature.CellRow, expected[i].cellRow);
-    EXPECT_EQ(feature.Group, expected[i].group);
+    EXPECT_EQ(std::tuple(feature.Kind, feature.CellCol, feature.CellRow, feature.Group),
+              std::tuple(1, expected[i].cellCol, expected[i].cellRow, expected[i].group));
     EXPECT_EQ(feature.TexText, expected[i].texture);
     EXPECT_EQ(feature.Points, expected[i].points);
   }
@@ -103,11 +102,10 @@ std::string SourceOfSize(int textures, int polys, int points) {
 }
 
 TEST(VtpBgl, CountsOverflowIntoMoreBytesAtTheRightNumber) {
-  struct SizeRow {
+  const struct {
     int textures, polys, points;
-  };
-  for (const SizeRow row : {SizeRow{1, 1, 30}, SizeRow{1, 1, 31}, SizeRow{1, 1, 32}, SizeRow{128, 127, 1},
-                            SizeRow{129, 128, 1}, SizeRow{300, 257, 40}}) {
+  } rows[] = {{1, 1, 30}, {1, 1, 31}, {1, 1, 32}, {128, 127, 1}, {129, 128, 1}, {300, 257, 40}};
+  for (const auto& row : rows) {
     SCOPED_TRACE(std::to_string(row.textures) + " " + std::to_string(row.polys));
     const VtpFileRead file = CompileAndRead(SourceOfSize(row.textures, row.polys, row.points));
     ASSERT_EQ(file.Features.size(), static_cast<std::size_t>(row.polys));
@@ -119,12 +117,11 @@ TEST(VtpBgl, CountsOverflowIntoMoreBytesAtTheRightNumber) {
 }
 
 TEST(VtpBgl, BoundsGiveTheCentreOfTheFile) {
-  struct BoundsRow {
+  const struct {
     const char* bounds;
     double lat, lon;
-  };
-  for (const BoundsRow& row : {BoundsRow{"48 47 9 8", 47.5, 8.5}, BoundsRow{"-33 -35 -70 -73", -34, -71.5},
-                               BoundsRow{"91 89 180 179", 90, 179.5}}) {
+  } rows[] = {{"48 47 9 8", 47.5, 8.5}, {"-33 -35 -70 -73", -34, -71.5}, {"91 89 180 179", 90, 179.5}};
+  for (const auto& row : rows) {
     const VtpFileRead file = CompileAndRead(ReplaceAll(OneRoad, "48 47 9 8", row.bounds));
     EXPECT_NEAR(file.LatCenter, row.lat, 1e-9) << row.bounds;
     EXPECT_NEAR(file.LonCenter, row.lon, 1e-6) << row.bounds;

@@ -22,8 +22,7 @@ TEST(CompileSteps, AreOfferedForSelectedItems) {
     const char* name;
     std::vector<std::string> steps;
     std::function<void(ProjectState&)> fill;
-  } rows[] = {{"nothing", {}, [](ProjectState&) {}},
-              {"unselected",
+  } rows[] = {{"unselected",
                {},
                [](ProjectState& project) {
                  project.Lines = {ALine().Vtp("4", "1280")};
