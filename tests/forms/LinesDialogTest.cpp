@@ -84,6 +84,7 @@ TEST_F(LinesDialog, EachOptionStoresItsText) {
     const char *option, *texture, *layer, *named, *type;
     std::int32_t color;
   } rows[] = {{"optNone", "optAptTex", "3", "", "", 77},
+              {"optObjects", "optAptTex", "3", "", "Objects//", 77},
               {"optPoints", "optAptTex", "3", "", "Points//", 77},
               {"optVTP", "optAptTex", "3", "x", "VTP//3//12//", Rgb(10, 20, 30)},
               {"optVTP", "optAptTex", "", "x", "VTP//7//12//", Rgb(10, 20, 30)},

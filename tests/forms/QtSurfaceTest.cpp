@@ -55,6 +55,7 @@ TEST_F(QtSurfaceTest, APolygonThatRunsOverItselfLeavesAHole) {
   EXPECT_EQ(surface.Pixel({15, 15}), White);
   EXPECT_EQ(surface.Pixel({35, 15}), White);
   EXPECT_EQ(surface.Pixel({-1, 15}), White) << "outside";
+  EXPECT_EQ(surface.Pixel({0, 40}), White) << "outside";
 }
 
 TEST_F(QtSurfaceTest, APolygonIsClosedAndHasNoBlendedEdge) {
@@ -70,12 +71,15 @@ TEST_F(QtSurfaceTest, APolygonIsClosedAndHasNoBlendedEdge) {
 }
 
 TEST_F(QtSurfaceTest, SpansAreCutToTheSurface) {
+  surface.SetPen(Red, 1, PenStyle::Solid);
   const std::vector<PixelSpan> spans{{-1, 0, 40}, {1, -5, 3}, {2, 38, 99}, {3, 4, 4}, {3, 7, 5}, {40, 0, 40}};
   surface.Spans(spans, Blue);
   EXPECT_EQ(Row(0, 5), ".....");
   EXPECT_EQ(Row(1, 5), "bbb..");
   EXPECT_EQ(Row(2, 40), std::string(38, '.') + "bb");
   EXPECT_EQ(Row(3, 40), std::string(40, '.'));
+  surface.Polyline(std::array<PixelPoint, 2>{{{0, 5}, {3, 5}}});
+  EXPECT_EQ(surface.Pixel({1, 5}), Red) << "the pen is as it was";
 }
 
 /// With a picture of two pixels, the left one red and the right one blue.

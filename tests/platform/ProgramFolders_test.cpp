@@ -51,9 +51,11 @@ TEST_F(ProgramFoldersTest, AFolderThatCannotBeWrittenDoesNotServe) {
 
 TEST_F(ProgramFoldersTest, FillingAddsWhatIsMissingAndKeepsTheRest) {
   Make("data/tools/bmps");
+  Make("data/html");
   Write("data/tools/lines.txt", "shipped");
   Write("data/tools/polys.txt", "shipped");
   Write("data/tools/bmps/001B2SU1.BMP", "picture");
+  Write("data/html/island.pdf", "pdf");
   Make("app/Tools");
   Write("app/Tools/LINES.TXT", "mine");
 
@@ -62,6 +64,7 @@ TEST_F(ProgramFoldersTest, FillingAddsWhatIsMissingAndKeepsTheRest) {
   EXPECT_FALSE(fs::exists(m_root / "app/Tools/lines.txt"));
   EXPECT_EQ(ReadWholeFile(m_root / "app/Tools/polys.txt"), "shipped");
   EXPECT_EQ(ReadWholeFile(m_root / "app/Tools/bmps/001B2SU1.BMP"), "picture");
+  EXPECT_EQ(ReadWholeFile(m_root / "app/html/island.pdf"), "pdf");
   EXPECT_TRUE(fs::is_directory(m_root / "app/Tools/work"));
   EXPECT_TRUE(fs::is_directory(m_root / "app/scenery"));
   EXPECT_FALSE(FillProgramFolder(m_root / "app", m_root / "data")) << "there was nothing left to copy";
@@ -73,10 +76,12 @@ TEST_F(ProgramFoldersTest, ItsFoldersAreFoundInAnyCase) {
   EXPECT_EQ(folders.Work(), m_root / "app/tools/work") << "the name that would be made";
   Make("app/Tools/WORK");
   Make("app/Tools/Bmps");
+  Make("app/HTML");
   Write("app/LANDSMITH.INI", "");
   EXPECT_EQ(folders.Tools(), m_root / "app/Tools");
   EXPECT_EQ(folders.Work(), m_root / "app/Tools/WORK");
   EXPECT_EQ(folders.Bitmaps(), m_root / "app/Tools/Bmps");
+  EXPECT_EQ(folders.Html(), m_root / "app/HTML");
   EXPECT_EQ(folders.IniPath(), m_root / "app/LANDSMITH.INI");
   EXPECT_EQ(folders.FSTexturePath(), textures);
 }

@@ -45,11 +45,17 @@ const FaultRow FaultRows[] = {
     {"width of 0", "-1022 13", "-1022 0", 18, "the width is 0"},
     {"area beyond 31", "1 1 17 24", "1 1 17 32", 9, "y is 32", 2},
     {"layer beyond 6 bits", "( 13 1 1 0", "( 64 1 1 0", 10, "the layer is 64"},
+    {"replace flag", "( 13 1 1 0", "( 13 2 1 0", 10, "the replace flag is 2"},
     {"kind of poly", "( 2 4 1 )", "( 2 4 0 )", 15, "the kind is 0, it must be 1"},
     {"texture that is not listed", "VTPTexID( 0 0", "VTPTexID( 1 0", 11, "there is no texture 1"},
+    {"latitude beyond the pole", "1 48 47", "1 92 47", 3, "the northern bound is 92"},
     {"bounds the wrong way", "1 48 47 9 8", "1 48 47 8 9", 3, "not east of"},
     {"bounds missing", "1 48 47 9 8", "0x201", 5, "wants a Header with bounds"},
+    {"column beyond the world", "401 120", "785 120", 23, "the cell's column is 785"},
+    {"buffer without a size", "BUF 8192", "BUF 0", 1, "the buffer is 0"},
     // counts
+    {"layers", "VTPArea( 1", "VTPArea( 2", 9, "announces 2 layers, 1 found"},
+    {"textures", "( 13 1 1 0", "( 13 1 0 0", 10, "announces 0 textures, 1 found"},
     {"polys", "VTPPolyCount( 1", "VTPPolyCount( 3", 12, "announces 3 polys, 1 found"},
     {"points", "( 2 4 1 )", "( 2 5 1 )", 15, "announces 5 points, 4 found"},
     {"steps behind a place", "6000 3 12", "6000 4 12", 16, "announces 4 steps, 3 found"},
@@ -65,6 +71,8 @@ const FaultRow FaultRows[] = {
     {"no label", ":cell00", "", 9, "VTPArea stands outside of a label", 2},
     {"label without an area", ":cell00", ":cell00\n:cell01", 7, ":cell00 is followed by no VTPArea", 2},
     {"no poly count", "VTPPolyCount( 1 )", "", 11, "not followed by a VTPPolyCount"},
+    {"poly count twice", "VTPPolyCount( 1 )", "VTPPolyCount( 1 ) VTPPolyCount( 1 )", 12,
+     "right behind a VTPTexID"},
     {"no end", "VTPEnd", "", 26, "there is no VTPEnd"},
     {"index twice", "VTPTextureList( 1\n", "VTPIndexList( 0 )\nVTPTextureList( 1\n", 26,
      "a second VTPIndexList"},
@@ -73,7 +81,8 @@ const FaultRow FaultRows[] = {
     // textures
     {"numbers missing", "153 0 0 0 4", "153 0 0 4", 27, "153 wants four numbers"},
     {"effect without controller", "153 0 0", "\"a.bmp\" 0 1", 27, "has no controller"},
-    {"effect on a number", "153 0 0 0 4", "153 0 1 0 4 wave", 27, "is no bitmap and has an effect"}};
+    {"effect on a number", "153 0 0 0 4", "153 0 1 0 4 wave", 27, "is no bitmap and has an effect"},
+    {"type beyond 4 bits", "153 0 0", "153 16 0", 27, "the texture type is 16"}};
 
 TEST(ScmFaults, AreReportedWithLineAndReason) {
   for (const FaultRow& row : FaultRows) {
