@@ -13,6 +13,7 @@ namespace landsmith {
 
 namespace {
 
+constexpr std::string_view DeclinedName = "declined.LSP";
 constexpr std::size_t SlotCount = 64;  ///< more programs than anyone runs at a time
 
 std::filesystem::path SlotFile(const std::filesystem::path& folder, std::size_t number,
@@ -92,6 +93,12 @@ void RecoverySlot::Remove() const {
   std::filesystem::remove(m_about, failure);
 }
 
+void RecoverySlot::SetAside() const {
+  std::error_code failure;
+  std::filesystem::rename(m_project, m_project.parent_path() / DeclinedName, failure);
+  Remove();
+}
+
 std::string RecoveryQuestion(const RecoveryCopy& copy) {
   std::string text =
       "Landsmith did not come to its end the last time, and this project had changes that were "
@@ -99,7 +106,8 @@ std::string RecoveryQuestion(const RecoveryCopy& copy) {
       copy.Name;
   if (!copy.ProjectFile.empty()) text += "\n" + copy.ProjectFile;
   return text + "\n\nA copy was kept at " + LocalTimeText(copy.Written) +
-         ". Open it ?\nWith No the copy is deleted.";
+         ". Open it ?\nWith No the copy is set aside as " + PathText(copy.File.parent_path() / DeclinedName) +
+         ".";
 }
 
 }  // namespace landsmith

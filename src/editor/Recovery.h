@@ -36,6 +36,9 @@ public:
   /// `project` belongs to the call: it is prepared for its file as a save prepares it.
   void Write(ProjectState project, const std::filesystem::path& appPath) const;
   void Remove() const;
+  /// Takes the copy out of the slot without deleting it: it becomes "declined.LSP" in place of the one that
+  /// was declined before. A hasty answer must not cost the work of an afternoon.
+  void SetAside() const;
 
 private:
   RecoverySlot(const std::filesystem::path& folder, std::size_t number, FileLock lock);

@@ -50,9 +50,10 @@ TEST_F(Recovery, ACopyIsLeftWhenItsProgramIsGoneAndNotBefore) {
   EXPECT_EQ(copy.ProjectFile, "/home/ann/Harbour.LSP");
   const ProjectState kept = ReadProject(ReadWholeFile(copy.File), "");
   EXPECT_EQ(kept.Maps.front().Name, "MAP01");
-  left->Remove();
+  left->SetAside();
   EXPECT_FALSE(left->Copy());
-  EXPECT_FALSE(RecoverySlot::TakeLeft(Folder()));
+  EXPECT_FALSE(RecoverySlot::TakeLeft(Folder())) << "it is not offered again";
+  EXPECT_EQ(ReadProject(ReadWholeFile(Folder() / "declined.LSP"), "").Name, "Harbour");
 }
 
 TEST_F(Recovery, ProgramsHaveSlotsOfTheirOwn) {

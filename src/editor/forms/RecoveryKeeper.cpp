@@ -38,7 +38,7 @@ bool RecoveryKeeper::Offer(Editor& editor) {
       m_copyThere = true;
       return true;
     }
-    left->Remove();
+    left->SetAside();
   }
   return false;
 }
