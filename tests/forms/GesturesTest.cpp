@@ -107,6 +107,7 @@ TEST_P(Gestures, PasteLastsUntilARightClickAndDeletingAsks) {
   EXPECT_EQ(Count(), 4U);
   QTest::keyClick(rig.canvas, Qt::Key_Delete);
   EXPECT_EQ(Count(), 3U);
+  ASSERT_EQ(rig.dialogs.questions.size(), 2U);
   EXPECT_EQ(rig.dialogs.questions.back(), "Delete 1 item(s) ?");
 }
 
