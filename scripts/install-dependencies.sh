@@ -7,7 +7,7 @@ packages=(
   cmake ninja-build g++ ccache
   qt6-base-dev qt6-svg-dev libqt6svg6 qt6-image-formats-plugins libgl1-mesa-dev
   libcli11-dev
-  libgtest-dev libgmock-dev libbenchmark-dev nlohmann-json3-dev
+  libgtest-dev libgmock-dev libbenchmark-dev libgeos-dev nlohmann-json3-dev
   clang clang-format clang-tidy libclang-rt-14-dev
   fonts-dejavu-core
 )

@@ -2,6 +2,7 @@
 
 #include "core/Grid.h"
 #include "core/Numbers.h"
+#include "vector/AltitudePlane.h"
 #include "vector/PackedText.h"
 #include "vector/PolyType.h"
 
@@ -79,21 +80,13 @@ void SetPolyAltitude(PolyRec& poly, float altitudeMetres) {
 }
 
 void SetPolyPlane(PolyRec& poly, std::size_t point1, std::size_t point2, float altitude1, float altitude2) {
-  const PolyPoint p1 = poly.Points[point1];
-  const PolyPoint p2 = poly.Points[point2];
-  const double metresLon = MetersPerDegreeLon((p1.Lat + p2.Lat) / 2);
-  const double dx = metresLon * p1.Lon - metresLon * p2.Lon;
-  const double dy = MetersPerDegreeLat * p1.Lat - MetersPerDegreeLat * p2.Lat;
-  const double rise = static_cast<double>(altitude1) - static_cast<double>(altitude2);
-  if (rise == 0) return SetPolyAltitude(poly, altitude1);
-  const double distance2 = dx * dx + dy * dy;
-  if (distance2 == 0) return;  // a step, which no plane has
-  const double slopeX = dx * rise / distance2;
-  const double slopeY = dy * rise / distance2;
+  const PolyPoint& p1 = poly.Points[point1];
+  const PolyPoint& p2 = poly.Points[point2];
+  const auto plane = PlaneThrough({p1.Lat, p1.Lon}, {p2.Lat, p2.Lon}, static_cast<double>(altitude1),
+                                  static_cast<double>(altitude2));
+  if (!plane) return;
   for (PolyPoint& point : poly.Points)
-    point.Alt = static_cast<float>(static_cast<double>(altitude1) +
-                                   slopeX * (metresLon * point.Lon - metresLon * p1.Lon) +
-                                   slopeY * (MetersPerDegreeLat * point.Lat - MetersPerDegreeLat * p1.Lat));
+    point.Alt = plane->AltitudeAt({point.Lat, point.Lon});
 }
 
 void ApplyPlaneAltitudes(PolyRec& poly) {
