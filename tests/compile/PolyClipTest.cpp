@@ -135,6 +135,7 @@ TEST(PolyClip, BothWalksAgreeOnCleanSquares) {
         std::int64_t area2 = 0;
         for (const ClosedRing& ring : rings) {
           area2 += RingArea2(ring);
+          clean = clean && RingArea2(ring) > 0;
           for (std::size_t k = 0; k < ring.size(); ++k) {
             const WalkedPoint& next = ring[(k + 1) % ring.size()];
             clean = clean && (ring[k].X != next.X || ring[k].Y != next.Y);
