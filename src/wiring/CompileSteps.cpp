@@ -1,6 +1,8 @@
 #include "wiring/CompileSteps.h"
 
+#include "compile/ExcludePolys.h"
 #include "compile/VtpLines.h"
+#include "compile/VtpPolys.h"
 #include "raster/ClassCells.h"
 #include "vector/LineType.h"
 
@@ -66,8 +68,9 @@ const StepTable& CompileSteps() {
       {"fills", "ckFills", "frLWM", "Area Fills", HasFills, true, false, nullptr},
       {"lwm", "ckLWMPolys", "frLWM", "LWM Polygons", HasLwmPolys, true, false, nullptr},
       {"tex", "ckPolyTex", "frOther", "Textured Polygons", HasTexturedPolys, true, false, nullptr},
-      {"vtp-polys", "ckVTPPolys", "frVTP", "VTP Polygons", HasVtpPolys, true, false, nullptr},
-      {"exc-polys", "ckEXCPolys", "frOther", "Exclusion Polygons", HasExcludePolys, true, false, nullptr},
+      {"vtp-polys", "ckVTPPolys", "frVTP", "VTP Polygons", HasVtpPolys, true, false, CompileVTPPolys},
+      {"exc-polys", "ckEXCPolys", "frOther", "Exclusion Polygons", HasExcludePolys, true, false,
+       CompileExcludePolys},
       {"vtp-lines", "ckVTPLines", "frVTP", "VTP Lines", HasSelectedVtpLine, true, false, CompileVTPLines},
       {"meshes", "ckMeshes", "frOther", "Meshes", HasMeshes, true, false, nullptr},
       {"objects", "ckObjects", "frOther", "Objects", HasObjects, true, false, nullptr},
