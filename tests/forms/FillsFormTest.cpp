@@ -68,7 +68,11 @@ TEST_F(FillsForm, WhatThePaletteSaysCountsForTheNextClick) {
   Press(palette, "cmdOK");
   EXPECT_EQ(rig.dialogs.messages.back().text, "The altitude must be a number of metres!");
   EXPECT_TRUE(palette.isVisible());
-  EXPECT_EQ(rig.session.tool.CurrentFillHeight, 12.5F);
+  EXPECT_EQ(TextOf(palette, "txtAltitude"), "12.5m");
+  rig.Click(200, 0);
+  EXPECT_EQ(Fills()[1].Height, 12.5F);
+  EXPECT_EQ(TextOf(palette, "txtAltitude"), "12.5") << "what counted is what stands there";
+  QTest::keyClicks(&altitude, "m");
   Press(palette, "ckLand");
   EXPECT_FALSE(altitude.isEnabled());
   Press(palette, "ckLand");

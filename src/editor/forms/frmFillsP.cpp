@@ -7,8 +7,6 @@
 #include "forms/QtText.h"
 #include "ui_frmFillsP.h"
 
-#include <QApplication>
-#include <QEvent>
 #include <QPixmap>
 
 namespace landsmith {
@@ -65,7 +63,7 @@ void frmFillsP::ShowHeight(float height) {
 
 void frmFillsP::ShowPalette() {
   m_fill.reset();
-  setWindowTitle(tr("Landsmith - Area Fills"));
+  setWindowTitle(tr("Area Fills"));
   m_ui->cmdOK->setText(tr("Close"));
   m_ui->cmdCancel->hide();
   m_ui->lbSize->setText(
@@ -77,7 +75,7 @@ void frmFillsP::ShowPalette() {
 void frmFillsP::ShowFill(std::size_t fill) {
   m_fill = fill;
   const FillRec& record = m_session.project.Fills[fill];
-  setWindowTitle(tr("Landsmith - Area Fill Properties"));
+  setWindowTitle(tr("Area Fill Properties"));
   m_ui->cmdOK->setText(tr("Apply"));
   m_ui->lbSize->setText(tr("This Fill has as a size of \n%1 X %1 Areas.").arg(int{record.Size}));
   ShowValues(TypeOfFill(record), record.Height);
@@ -99,6 +97,7 @@ void frmFillsP::accept() {
   const std::optional<float> height = m_type == FillType::Land ? 0 : Height();
   if (!height) {
     m_session.dialogs.Message(MessageKind::Error, "The altitude must be a number of metres!");
+    activateWindow();  // the system may turn to the canvas
     m_ui->txtAltitude->setFocus();
     m_ui->txtAltitude->selectAll();
     return;
@@ -111,11 +110,8 @@ void frmFillsP::Store(float height) {
   SetFillType(edit.Project().Fills.Edit(*m_fill), m_type, height);
 }
 
-/// Whoever turns to the canvas sees the height that a click will take. A message about the text leaves it.
-void frmFillsP::changeEvent(QEvent* event) {
-  QDialog::changeEvent(event);
-  if (event->type() != QEvent::ActivationChange || isActiveWindow() || m_fill || Height()) return;
-  if (!QApplication::activeModalWidget()) ShowHeight(m_session.tool.CurrentFillHeight);
+void frmFillsP::Check() {
+  if (!m_fill && !Height()) ShowHeight(m_session.tool.CurrentFillHeight);
 }
 
 }  // namespace landsmith

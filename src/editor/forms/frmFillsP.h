@@ -29,13 +29,12 @@ public:
   /// Each change counts at once, for the next click on the canvas. Called again after a change of the grid,
   /// it shows the new size.
   void ShowPalette();
+  /// Something has happened on the canvas: an altitude that is no number gives way to the one that counted.
+  void Check();
   /// A fill that exists (0-based); Apply stores type and height as one change.
   void ShowFill(std::size_t fill);
 
   void accept() override;
-
-protected:
-  void changeEvent(QEvent* event) override;
 
 private:
   void ConnectType(QCheckBox* box, FillType type, std::int32_t color);
