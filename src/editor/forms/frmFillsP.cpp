@@ -97,7 +97,6 @@ void frmFillsP::accept() {
   const std::optional<float> height = m_type == FillType::Land ? 0 : Height();
   if (!height) {
     m_session.dialogs.Message(MessageKind::Error, "The altitude must be a number of metres!");
-    activateWindow();  // the system may turn to the canvas
     m_ui->txtAltitude->setFocus();
     m_ui->txtAltitude->selectAll();
     return;
