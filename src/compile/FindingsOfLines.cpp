@@ -55,11 +55,9 @@ void CheckWidths(const std::vector<LinePoint>& points, LatLon shift, ItemFinding
 void CheckGaps(const std::vector<LinePoint>& points, LatLon shift, ItemFindings& found) {
   const LineGaps gaps = FindLineGaps(points);
   if (gaps.Count == 0) return;
-  const std::string where =
-      gaps.Count == 1
-          ? "a Cell of the grid without a vertex in it: it has a gap there."
-          : std::to_string(gaps.Count) + " Cells of the grid without a vertex in them: it has gaps there.";
-  found.Warn(WithoutShift(gaps.First, shift), "The line crosses " + where);
+  const std::string cells = gaps.Count == 1 ? "a Cell without a vertex in it."
+                                            : std::to_string(gaps.Count) + " Cells without a vertex in them.";
+  found.Warn(WithoutShift(gaps.First, shift), "The line has gaps, since it crosses " + cells);
 }
 
 }  // namespace
@@ -77,8 +75,7 @@ void CheckVtpFields(const std::string& layer, const std::string& texture, LatLon
   if (texture.empty())
     found.Error(at, "No texture is chosen.");
   else if (!IsTextureText(texture))
-    found.Error(
-        at, "The texture \"" + texture + "\" is neither a number nor names of bitmaps and their numbers.");
+    found.Error(at, "The texture \"" + texture + "\" is neither a number nor bitmaps with their numbers.");
 }
 
 void CheckItem(const LineRec& line, LatLon shift, ItemFindings& found) {

@@ -1,7 +1,9 @@
 #include "compile/ItemFindings.h"
 #include "core/Grid.h"
 #include "core/Numbers.h"
+#include "core/Text.h"
 #include "vector/LineType.h"
+#include "vector/PackedText.h"
 #include "vector/PolyType.h"
 #include "vector/RingCrossing.h"
 
@@ -69,6 +71,30 @@ std::string Metres(float altitude) {
   return NumberText(altitude) + " m";
 }
 
+constexpr const char* NoAltitude = "A vertex has an altitude that is no number.";
+
+/// The compiler takes the last four characters off.
+bool IsOnlyExtension(const std::string& bitmap) {
+  constexpr std::size_t extension = 4;
+  return !bitmap.empty() && ToWindows1252(bitmap).size() <= extension;
+}
+
+bool IsPair(std::string_view text) {
+  const std::size_t comma = text.find(',');
+  return comma != std::string_view::npos && ParseInt32(text.substr(0, comma)) &&
+         ParseInt32(text.substr(comma + 1));
+}
+
+/// The first vertex whose texture coordinates cannot be read. Where there are not as many as vertices, they
+/// are made anew anyway.
+std::optional<std::size_t> UnreadablePair(std::string_view pairs, std::size_t vertices) {
+  std::optional<std::size_t> unreadable;
+  std::size_t number = 0;
+  for (; !pairs.empty(); ++number)
+    if (!IsPair(TakePackedField(pairs)) && !unreadable) unreadable = number;
+  return number == vertices ? unreadable : std::nullopt;
+}
+
 class PolyCheck {
 public:
   PolyCheck(const PolyRec& poly, LatLon shift, ItemFindings& found)
@@ -99,7 +125,7 @@ public:
   }
   void operator()(const TexPolyType& type) {
     CheckTexFields(type);
-    CheckVertexAltitudes();
+    if (const PolyPoint* odd = VertexWithoutAltitude()) m_found.Error(ShownAt(*odd), NoAltitude);
     if (CheckPlaces(m_poly.Points, m_found))
       CheckShape(RingAsDrawn(m_poly.Points), m_at, "The polygon has no area: nothing of it can be seen.",
                  m_found);
@@ -121,7 +147,7 @@ private:
         m_found.Warn(m_at, "The polygon is compiled level at " + Metres(*highest) +
                                ", but its vertices have different altitudes.");
     } else {
-      CheckVertexAltitudes();
+      if (const PolyPoint* odd = VertexWithoutAltitude()) m_found.Warn(ShownAt(*odd), NoAltitude);
       CheckSlope(type, Metres(*highest), Metres(*lowest));
     }
   }
@@ -134,12 +160,11 @@ private:
       m_found.Error(m_at, slope + " is given at vertices " + type.HighestPoint + " and " + type.LowestPoint +
                               ", but the polygon has " + std::to_string(m_poly.Points.size()) + ".");
     else if (high->Lat == low->Lat && high->Lon == low->Lon)
-      m_found.Error({high->Lat, high->Lon}, slope + " begins and ends at one place.");
+      m_found.Error(ShownAt(*high), slope + " begins and ends at one place.");
     else if (IsLevel())
       m_found.Warn(m_at, slope + " has all its vertices at " + Metres(high->Alt) + ".");
     else if (high->Alt == low->Alt)
-      m_found.Warn({high->Lat, high->Lon},
-                   slope + " begins and ends at vertices of " + Metres(high->Alt) + ".");
+      m_found.Warn(ShownAt(*high), slope + " begins and ends at vertices of " + Metres(high->Alt) + ".");
   }
 
   const PolyPoint* VertexOf(const std::string& text) const {
@@ -148,24 +173,32 @@ private:
     return &m_poly.Points[static_cast<std::size_t>(*number) - 1];
   }
 
-  void CheckVertexAltitudes() {
+  const PolyPoint* VertexWithoutAltitude() const {
     const auto odd = std::find_if(m_poly.Points.begin(), m_poly.Points.end(),
                                   [](const PolyPoint& point) { return !std::isfinite(point.Alt); });
-    if (odd == m_poly.Points.end()) return;
-    const LatLon at{odd->Lat, odd->Lon};
-    m_found.Error(IsInWorld(at) ? at : m_at, "A vertex has an altitude that is no number.");
+    return odd == m_poly.Points.end() ? nullptr : &*odd;
   }
 
   void CheckTexFields(const TexPolyType& type) {
+    if (IsOnlyExtension(type.Name))
+      m_found.Error(m_at, "The bitmap's name \"" + type.Name + "\" is no more than an extension.");
     if (!ParseInt32(type.TileX) || !ParseInt32(type.TileY))
-      m_found.Error(m_at, "The texture is repeated \"" + type.TileX + "\" by \"" + type.TileY +
+      m_found.Error(m_at, "The bitmap is repeated \"" + type.TileX + "\" by \"" + type.TileY +
                               "\" times, which are no whole numbers.");
     if (!ParseInt32(type.Priority))
       m_found.Error(m_at, "The priority \"" + type.Priority + "\" is no whole number.");
     if (!ParseNumber(type.V1))
       m_found.Error(m_at, "The visibility \"" + type.V1 + "\" is no number of metres.");
     if (!ParseInt32(type.Night))
-      m_found.Error(m_at, "The mark for a night texture is \"" + type.Night + "\", no number.");
+      m_found.Error(m_at, "The mark for a night bitmap is \"" + type.Night + "\", no number.");
+    if (const auto pair = UnreadablePair(type.Pairs, m_poly.Points.size()))
+      m_found.Error(ShownAt(m_poly.Points[*pair]),
+                    "The place of vertex " + std::to_string(*pair + 1) + " on the bitmap cannot be read.");
+  }
+
+  LatLon ShownAt(const PolyPoint& vertex) const {
+    const LatLon at{vertex.Lat, vertex.Lon};
+    return IsInWorld(at) ? at : m_at;
   }
 
   bool IsLevel() const {

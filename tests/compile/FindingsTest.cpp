@@ -76,7 +76,7 @@ TEST(FindingsOfLines, GapsAreCellsCrossedWithoutAVertex) {
       continue;
     }
     const std::string number = row.gaps == 1 ? "a Cell" : std::to_string(row.gaps) + " Cells";
-    ExpectFindings(findings, {"warning The line crosses " + number}, row.name);
+    ExpectFindings(findings, {"warning The line has gaps, since it crosses " + number}, row.name);
     EXPECT_NEAR(findings[0].At.lon, row.first.x * CellWidth, StepLon) << row.name;
     EXPECT_NEAR(findings[0].At.lat, row.first.y * CellHeight, StepLat) << row.name;
   }
@@ -87,7 +87,8 @@ TEST(FindingsOfLines, TheShiftOfTheSettingsCounts) {
   AppSettings settings;
   ExpectFindings(Check(road, settings), {}, "not shifted");
   settings.VTPShiftWE = -20;  // of 8192 to the Cell: 0.0024 Cells
-  ExpectFindings(Check(road, settings), {"warning The line crosses a Cell"}, "shifted into the first Cell");
+  ExpectFindings(Check(road, settings), {"warning The line has gaps, since it crosses a Cell"},
+                 "shifted into the first Cell");
 }
 
 TEST(FindingsOfLines, FieldsWidthsAndPlaces) {
@@ -201,8 +202,14 @@ TEST(FindingsOfPolys, ShapesFieldsAndAltitudes) {
       {"fields in words",
        "TEX//roof.bmp//top//1//two//far//dark//",
        Square,
-       {"error The texture is repeated \"1\" by \"two\"", "error The priority \"top\"",
+       {"error The bitmap is repeated \"1\" by \"two\"", "error The priority \"top\"",
         "error The visibility \"far\"", "error The mark for a night"}},
+      {"too few pairs are made anew", "TEX//roof.bmp//4//1//1//5000//0//a,0//", Square, {}},
+      {"a pair of words",
+       "TEX//roof.bmp//4//1//1//5000//0//0,0//256,0//east,256//0,256//",
+       Square,
+       {"error The place of vertex 3"}},
+      {"a bitmap without a name", "TEX//.bmp//4//1//1//5000//0//", Square, {"error The bitmap's name"}},
       {"no vertices", "TEX//roof.bmp//4//1//1//5000//0//", {}, vanishes},
       {"beyond the date line",
        "LWM//Land//1//1//1//1//",

@@ -25,6 +25,7 @@ class QTimer;
 namespace landsmith {
 
 class HintLabel;
+struct Finding;
 namespace Ui {
 class frmStart;
 }
@@ -83,11 +84,12 @@ private:
   void BindModes();
   void BindHelpMenu();
   void ShowPreferences();
-  void ShowCompilation();
   void ShowShortcuts();
   void ShowAbout();
 
   // StartForms.cpp: forms beside the canvas
+  void ShowCompilation();
+  void GoToFinding(const Finding& finding, QDialog& form);
   void ShowFind();
   void ShowGotoPosition();
   void ShowCoordinates();
