@@ -60,6 +60,20 @@ void CheckGaps(const std::vector<LinePoint>& points, LatLon shift, ItemFindings&
   found.Warn(WithoutShift(gaps.First, shift), "The line has gaps, since it crosses " + cells);
 }
 
+void CheckTexture(const std::string& texture, LatLon at, ItemFindings& found) {
+  if (texture.empty()) return found.Error(at, "No texture is chosen.");
+  const std::string text =
+      "The texture \"" + texture + "\" is neither a number nor bitmaps with their numbers.";
+  switch (JudgeTextureField(texture)) {
+    case TextureField::Good:
+      return;
+    case TextureField::Strange:
+      return found.Warn(at, text);
+    case TextureField::Unreadable:
+      return found.Error(at, text);
+  }
+}
+
 }  // namespace
 
 LatLon VtpShift(const AppSettings& settings) {
@@ -72,10 +86,7 @@ void CheckVtpFields(const std::string& layer, const std::string& texture, LatLon
     found.Error(at, "The layer \"" + layer + "\" is no whole number.");
   else if (*number < 0 || *number > LastVtpLayer)
     found.Error(at, "The layer " + layer + " is none of 0 to " + std::to_string(LastVtpLayer) + ".");
-  if (texture.empty())
-    found.Error(at, "No texture is chosen.");
-  else if (!IsTextureText(texture))
-    found.Error(at, "The texture \"" + texture + "\" is neither a number nor bitmaps with their numbers.");
+  CheckTexture(texture, at, found);
 }
 
 void CheckItem(const LineRec& line, LatLon shift, ItemFindings& found) {

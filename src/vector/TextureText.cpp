@@ -52,11 +52,18 @@ bool IsTextureTail(std::string_view rest) {
 
 }  // namespace
 
-bool IsTextureText(std::string_view field) {
-  if (IsNumericTexture(field)) return IsDigits(Trim(field));
+TextureField JudgeTextureField(std::string_view field) {
   std::string_view rest = field;
-  if (!IsName(TakeWord(rest))) return false;
-  return Trim(rest).empty() || IsTextureTail(rest);
+  if (!IsName(TakeWord(rest))) return TextureField::Unreadable;
+  const bool isAlone = Trim(rest).empty();
+  const bool isQuoted = Trim(field).starts_with('"');
+  if (IsNumericTexture(field)) {
+    if (!isAlone) return TextureField::Unreadable;
+    return isQuoted || IsDigits(Trim(field)) ? TextureField::Good : TextureField::Strange;
+  }
+  if (!isAlone && !IsTextureTail(rest)) return TextureField::Unreadable;
+  const bool isFile = isQuoted || field.find('.') != std::string_view::npos;
+  return isFile ? TextureField::Good : TextureField::Strange;
 }
 
 }  // namespace landsmith

@@ -1,5 +1,6 @@
 // The compilation dialog: what it offers, the run, and what it shows afterwards.
 #include "DialogRig.h"
+#include "WindowRig.h"
 #include "forms/SourceExcerpt.h"
 #include "forms/frmBGL.h"
 #include "support/Builders.h"
@@ -9,6 +10,7 @@
 #include <QPlainTextEdit>
 #include <QTabWidget>
 #include <QTest>
+#include <QTimer>
 #include <QTreeWidget>
 
 namespace landsmith::test {
@@ -126,7 +128,7 @@ TEST_F(CompileDialog, FindingsAreListedAndLeadToTheirPlaces) {
   AddFaultyItems(rig.session.project);
   frmBGL dialog(rig.session, rig.display, nullptr);
   std::vector<LatLon> places;
-  QObject::connect(&dialog, &frmBGL::GoTo, [&](const Finding& finding) { places.push_back(finding.At); });
+  QObject::connect(&dialog, &frmBGL::GoTo, [&](LatLon at) { places.push_back(at); });
   dialog.show();
   auto& list = Find<QTreeWidget>(dialog, "lstFindings");
   ASSERT_EQ(list.topLevelItemCount(), 2);
@@ -150,6 +152,29 @@ TEST_F(CompileDialog, FindingsAreListedAndLeadToTheirPlaces) {
   EXPECT_TRUE(dialog.isVisible());
   EXPECT_TRUE(rig.tools.ran.empty()) << "Enter in the list compiles";
   EXPECT_TRUE(Find<QWidget>(dialog, "cmdCompile").isEnabled());
+}
+
+TEST(CompileDialogInWindow, GoToShowsThePlaceBesideTheDialogAndKeepsTheSelection) {
+  WindowRig rig;
+  rig.ShowProject();
+  AddFaultyItems(rig.session.project);
+  bool asked = false;
+  QTimer::singleShot(0, [&] {
+    QWidget* dialog = QApplication::activeModalWidget();
+    ASSERT_NE(dialog, nullptr);
+    auto& list = Find<QTreeWidget>(*dialog, "lstFindings");
+    list.setCurrentItem(list.topLevelItem(1));
+    Press(*dialog, "cmdGoTo");
+    EXPECT_TRUE(dialog->isVisible());
+    asked = true;
+    dialog->close();
+  });
+  rig.Action("mnuFBGL").trigger();
+  ASSERT_TRUE(asked);
+  EXPECT_NEAR(rig.session.view.LatDispCenter, 47.005, 1e-4);
+  EXPECT_NEAR(rig.session.view.LonDispCenter, 8.01, 1e-4);
+  EXPECT_TRUE(rig.session.project.Lines[0].Selected);
+  EXPECT_TRUE(rig.session.project.Polys[0].Selected);
 }
 
 TEST_F(CompileDialog, WithoutFindingsThereIsNoList) {

@@ -107,7 +107,7 @@ void FindingList::ShowSummary() {
 
 void FindingList::GoToCurrent() {
   const int row = m_controls.list->indexOfTopLevelItem(m_controls.list->currentItem());
-  if (row >= 0) emit GoTo(m_findings[static_cast<std::size_t>(row)]);
+  if (row >= 0) emit GoTo(m_findings[static_cast<std::size_t>(row)].At);
 }
 
 }  // namespace landsmith

@@ -1,5 +1,4 @@
 // The forms that the editor asks the main window for, and those that stand beside the canvas.
-#include "compile/Findings.h"
 #include "forms/frmBGL.h"
 #include "forms/frmFind.h"
 #include "forms/frmLinesP.h"
@@ -62,15 +61,13 @@ void frmStart::ShowPolyProperties(std::optional<std::size_t> poly) {
 
 void frmStart::ShowCompilation() {
   frmBGL form(m_session, m_editor->Canvas(), this);
-  connect(&form, &frmBGL::GoTo, this, [&](const Finding& finding) { GoToFinding(finding, form); });
+  connect(&form, &frmBGL::GoTo, this, [&](LatLon at) { GoToFinding(at, form); });
   form.exec();
 }
 
 /// The selection stays as it is: it says what will be compiled.
-void frmStart::GoToFinding(const Finding& finding, QDialog& form) {
-  const LayerKind kind = finding.Kind == LineFinding ? LayerKind::Lines : LayerKind::Polys;
-  if (!m_session.view.Shows(kind)) m_editor->ToggleShown(kind);
-  m_editor->GoTo(finding.At);
+void frmStart::GoToFinding(LatLon at, QDialog& form) {
+  m_editor->GoTo(at);
   const QPoint middle = m_ui->canvas->mapToGlobal(m_ui->canvas->rect().center());
   if (form.frameGeometry().contains(middle)) MoveAside(form, *m_ui->canvas);
 }

@@ -3,8 +3,8 @@
 // is closed.
 #pragma once
 
-#include "compile/Findings.h"
 #include "compile/StepTable.h"
+#include "core/GeoTypes.h"
 #include "editor/Display.h"
 #include "editor/Session.h"
 #include "platform/Progress.h"
@@ -37,7 +37,7 @@ public:
 
 signals:
   /// The user wants to see the place of a finding; the dialog stays.
-  void GoTo(const landsmith::Finding& finding);
+  void GoTo(landsmith::LatLon at);
 
 private:
   void EnableSteps();

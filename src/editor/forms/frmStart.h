@@ -25,7 +25,6 @@ class QTimer;
 namespace landsmith {
 
 class HintLabel;
-struct Finding;
 namespace Ui {
 class frmStart;
 }
@@ -89,7 +88,7 @@ private:
 
   // StartForms.cpp: forms beside the canvas
   void ShowCompilation();
-  void GoToFinding(const Finding& finding, QDialog& form);
+  void GoToFinding(LatLon at, QDialog& form);
   void ShowFind();
   void ShowGotoPosition();
   void ShowCoordinates();
