@@ -87,11 +87,12 @@ private:
   void BindModes();
   void BindHelpMenu();
   void ShowPreferences();
-  void ShowCompilation();
   void ShowShortcuts();
   void ShowAbout();
 
   // StartForms.cpp: forms beside the canvas
+  void ShowCompilation();
+  void GoToFinding(LatLon at, QDialog& form);
   void ShowFind();
   void ShowGotoPosition();
   void ShowCoordinates();
