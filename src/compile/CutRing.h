@@ -1,0 +1,58 @@
+// A polygon's ring on the lattice of Points, cut where it crosses the lines of a grid.
+#pragma once
+
+#include "core/Records.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace landsmith {
+
+/// What a vertex of a cut ring is.
+enum class CutMark : std::uint8_t {
+  Vertex,
+  EntersOverParallel,
+  LeavesOverParallel,
+  EntersOverMeridian,
+  LeavesOverMeridian
+};
+
+constexpr bool Enters(CutMark mark) {
+  return mark == CutMark::EntersOverParallel || mark == CutMark::EntersOverMeridian;
+}
+constexpr bool IsCut(CutMark mark) {
+  return mark != CutMark::Vertex;
+}
+constexpr bool IsOverParallel(CutMark mark) {
+  return mark == CutMark::EntersOverParallel || mark == CutMark::LeavesOverParallel;
+}
+
+struct CutVertex {
+  double Lat = 0, Lon = 0;
+  double Crossing = 0;  ///< of a cut: where the edge as it was drawn crosses, along the line, in degrees
+  float Alt = 0;
+  CutMark Mark = CutMark::Vertex;
+};
+
+/// The lines of the grid lie at whole multiples of these, in degrees.
+struct GridLines {
+  double Height = 0, Width = 0;
+};
+
+/// Where vertices go: to Points of their Area, where those on the border of an Area lie a nudge inside, or to
+/// Points of their Cell, where only those on the border of the Cell do.
+enum class SnapForm { Area, Cell };
+
+/// Every vertex on its Point; those that then equal the one before go, the last one too when it equals the
+/// first. Runs clockwise on the map. Fewer than 3 are returned as none. Throws RuntimeError for a vertex
+/// outside of the world.
+std::vector<CutVertex> SnapRing(const std::vector<PolyPoint>& ring, SnapForm form);
+
+/// The ring with two vertices more at each crossing of an edge and a line: the one by which it leaves the
+/// square, a nudge on this side of the line, and the one by which it enters the next, a nudge beyond. A
+/// vertex on a line makes no crossing. First all parallels are cut, then the meridians. A cut that falls on
+/// the corner of four squares is moved a nudge off it, to the east or south, so that it lies in one square.
+/// The work grows with the vertices and the crossings.
+std::vector<CutVertex> CutAlongLines(const std::vector<CutVertex>& ring, const GridLines& lines);
+
+}  // namespace landsmith
