@@ -1,6 +1,8 @@
 // Positions and boxes in degrees, WGS84, north and east positive.
 #pragma once
 
+#include <algorithm>
+
 namespace landsmith {
 
 struct LatLon {
@@ -23,6 +25,12 @@ struct GeoBox {
     if (lat < SLat) SLat = lat;
     if (lon > ELon) ELon = lon;
     if (lon < WLon) WLon = lon;
+  }
+  void Add(const GeoBox& other) {
+    NLat = std::max(NLat, other.NLat);
+    SLat = std::min(SLat, other.SLat);
+    WLon = std::min(WLon, other.WLon);
+    ELon = std::max(ELon, other.ELon);
   }
   /// Touching counts as meeting.
   bool Meets(const GeoBox& other) const {
