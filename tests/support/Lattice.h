@@ -84,7 +84,7 @@ inline bool IsSimple(const LatticeRing& ring, Touching touching = Touching::Forb
       if (next(first) == second) {  // neighbours: the second may not come back on the first
         const LatticePoint a = ring[first], b = ring[second], c = ring[next(second)];
         const bool comesBack =
-          Turn(a, b, c) == 0 && (b.X - a.X) * (c.X - b.X) + (b.Y - a.Y) * (c.Y - b.Y) < 0;
+            Turn(a, b, c) == 0 && (b.X - a.X) * (c.X - b.X) + (b.Y - a.Y) * (c.Y - b.Y) < 0;
         if (touching == Touching::Forbidden && comesBack) return false;
       } else if (Meet(ring[k], ring[next(k)], ring[other], ring[next(other)], touching)) {
         return false;

@@ -113,8 +113,8 @@ inline std::vector<ReadPiece> ReadMaskPieces(std::string_view text) {
   return pieces;
 }
 
-/// The pieces of vector terrain polygons in the text's order, Points of 0..8160 in their Cell, -1 and 8161 for
-/// corners. Throws for counts that do not agree.
+/// The pieces of vector terrain polygons in the text's order, Points of 0..8160 in their Cell, -1 and 8161
+/// for corners. Throws for counts that do not agree.
 inline std::vector<ReadPiece> ReadTerrainPieces(std::string_view text) {
   using namespace reading;
   const std::vector<Statement> statements = Statements(text);

@@ -94,8 +94,8 @@ inline LatticeRing Star(Chance& chance, const Frame& frame) {
   LatticeRing ring;
   for (std::int64_t k = 0; k < n; ++k)
     ring.push_back(
-      Polar(2 * Pi * (static_cast<double>(k) + chance.Real(0, 0.9)) / static_cast<double>(n),
-            static_cast<double>(frame.size) / 2 * (k % 2 == 0 ? 1 : inner) * chance.Real(0.7, 1)));
+        Polar(2 * Pi * (static_cast<double>(k) + chance.Real(0, 0.9)) / static_cast<double>(n),
+              static_cast<double>(frame.size) / 2 * (k % 2 == 0 ? 1 : inner) * chance.Real(0.7, 1)));
   return ring;
 }
 
@@ -125,7 +125,8 @@ inline LatticeRing Tangle(Chance& chance, const Frame& frame) {
 
 /// On a line, within three steps of one, or halfway between two.
 inline std::int64_t NearLine(Chance& chance, const Frame& frame) {
-  const std::int64_t line = chance.Between(0, std::max<std::int64_t>(1, frame.size / frame.unit)) * frame.unit;
+  const std::int64_t line =
+      chance.Between(0, std::max<std::int64_t>(1, frame.size / frame.unit)) * frame.unit;
   const std::int64_t kind = chance.Between(0, 9);
   if (kind < 5) return line;
   if (kind < 8) return line + chance.Between(-3, 3);
@@ -174,7 +175,8 @@ inline LatticeRing Comb(Chance& chance, const Frame& frame) {
     const std::int64_t x = k * step, tip = chance.Between(-frame.size / 2, frame.size / 3);
     const std::int64_t foot = frame.size / 2 - chance.Between(0, frame.size / 20 + 1);
     if (square)
-      ring.insert(ring.end(), {{x + step / 4, foot}, {x + step / 4, tip}, {x + step / 2, tip}, {x + step / 2, foot}});
+      ring.insert(ring.end(),
+                  {{x + step / 4, foot}, {x + step / 4, tip}, {x + step / 2, tip}, {x + step / 2, foot}});
     else
       ring.insert(ring.end(), {{x + chance.Between(1, step / 2), tip}, {x + step - 1, foot}});
   }
@@ -206,11 +208,13 @@ inline LatticeRing Sliver(Chance& chance, const Frame& frame) {
   LatticeRing ring{a, b};
   const double width = chance.Real(1, 3);
   const double length = std::hypot(b.X - a.X, b.Y - a.Y);
-  const double eastward = -static_cast<double>(b.Y - a.Y) / length, southward = static_cast<double>(b.X - a.X) / length;
+  const double eastward = -static_cast<double>(b.Y - a.Y) / length,
+               southward = static_cast<double>(b.X - a.X) / length;
   for (std::int64_t k = chance.Between(1, 4); k > 0; --k) {
     const double t = static_cast<double>(k) / 5 + chance.Real(0, 0.15);
-    ring.push_back({std::llround(static_cast<double>(a.X) + t * static_cast<double>(b.X - a.X) + width * eastward),
-                    std::llround(static_cast<double>(a.Y) + t * static_cast<double>(b.Y - a.Y) + width * southward)});
+    ring.push_back(
+        {std::llround(static_cast<double>(a.X) + t * static_cast<double>(b.X - a.X) + width * eastward),
+         std::llround(static_cast<double>(a.Y) + t * static_cast<double>(b.Y - a.Y) + width * southward)});
   }
   return ring;
 }
@@ -249,7 +253,8 @@ inline LatticeRing Coast(Chance& chance, const Frame& frame) {
 }
 
 inline LatticeRing RingOfKind(RingKind kind, Chance& chance, const Frame& frame) {
-  static constexpr std::array makers{Convex, Star, Tangle, GridTangle, Rectangular, Comb, Spiral, Sliver, Coast};
+  static constexpr std::array makers{Convex, Star,   Tangle, GridTangle, Rectangular,
+                                     Comb,   Spiral, Sliver, Coast};
   static_assert(makers.size() == RingKinds);
   return makers[static_cast<std::size_t>(kind)](chance, frame);
 }
@@ -258,7 +263,7 @@ inline LatticeRing RingOfKind(RingKind kind, Chance& chance, const Frame& frame)
 inline LatticePoint PlaceInWorld(Chance& chance, const Frame& frame) {
   static constexpr std::int64_t width = PointsPerCell * 768;
   static constexpr std::array<LatticePoint, 6> cells{
-    {{384, 256}, {405, 120}, {0, 200}, {767, 130}, {766, 300}, {130, 400}}};
+      {{384, 256}, {405, 120}, {0, 200}, {767, 130}, {766, 300}, {130, 400}}};
   const LatticePoint cell = cells[static_cast<std::size_t>(chance.Between(0, 5))];
   LatticePoint place{cell.X * PointsPerCell, cell.Y * PointsPerCell};
   if (!chance.OneIn(3)) place.X += chance.Between(0, PointsPerCell / frame.unit) * frame.unit;
@@ -310,8 +315,8 @@ inline void MoveTo(LatticeRing& ring, LatticePoint place) {
 
 }  // namespace generators
 
-/// The polygon that belongs to the seed, for a grid whose lines are `unit` Points apart. Simple on the lattice
-/// and never collapsed; either direction, any start.
+/// The polygon that belongs to the seed, for a grid whose lines are `unit` Points apart. Simple on the
+/// lattice and never collapsed; either direction, any start.
 inline RandomPoly MakeRandomPoly(std::uint64_t seed, std::int64_t unit) {
   using namespace generators;
   Chance chance(seed);
@@ -338,8 +343,8 @@ inline RandomPoly MakeRandomPoly(std::uint64_t seed, std::int64_t unit) {
   }
 }
 
-/// A shore of so many vertices in a circle of `areas` Areas in the middle of Europe. Its vertices lie anywhere,
-/// where they are many closer than the Points.
+/// A shore of so many vertices in a circle of `areas` Areas in the middle of Europe. Its vertices lie
+/// anywhere, where they are many closer than the Points.
 inline std::vector<PolyPoint> CoastLikeRing(std::size_t vertices, double areas) {
   using namespace generators;
   constexpr double fine = 4096;  // parts of a Point

@@ -70,7 +70,8 @@ inline void Halve(const RealRing& ring, const SquareRange& range, std::int64_t s
   if (width == 1 && height == 1) {
     SquareRing& square = squares.emplace_back(SquareRing{range.X1, range.Y1, ring});
     for (RealPoint& at : square.Ring)
-      at = {at.x - static_cast<long double>(range.X1 * side), at.y - static_cast<long double>(range.Y1 * side)};
+      at = {at.x - static_cast<long double>(range.X1 * side),
+            at.y - static_cast<long double>(range.Y1 * side)};
     return;
   }
   const bool byX = width >= height;
@@ -92,7 +93,8 @@ inline std::vector<SquareRing> RingsOfSquares(const LatticeRing& ring, std::int6
   const std::int64_t left = range.X1, top = range.Y1;
   RealRing real;
   for (const LatticePoint& at : ring)
-    real.push_back({static_cast<long double>(at.X - left * side), static_cast<long double>(at.Y - top * side)});
+    real.push_back(
+        {static_cast<long double>(at.X - left * side), static_cast<long double>(at.Y - top * side)});
   std::vector<SquareRing> squares;
   Halve(real, {0, 0, range.X2 - left, range.Y2 - top}, side, squares);
   for (SquareRing& square : squares) {
@@ -277,13 +279,13 @@ inline std::vector<Rounded> CutsOfEdge(LatticePoint a, LatticePoint b, std::int6
   for (std::int64_t line = std::min(a.X, b.X) / side + 1; line * side < std::max(a.X, b.X); ++line) {
     const long double t = static_cast<long double>(line * side - a.X) / dx;
     const auto [y1, y2] =
-      RoundedWithin(static_cast<long double>(a.Y) + t * dy, OffLine * (2 + std::fabs(dy / dx)));
+        RoundedWithin(static_cast<long double>(a.Y) + t * dy, OffLine * (2 + std::fabs(dy / dx)));
     cuts.push_back({t, line * side, line * side, y1, y2});
   }
   for (std::int64_t line = std::min(a.Y, b.Y) / side + 1; line * side < std::max(a.Y, b.Y); ++line) {
     const long double t = static_cast<long double>(line * side - a.Y) / dy;
     const auto [x1, x2] =
-      RoundedWithin(static_cast<long double>(a.X) + t * dx, OffLine * (2 + std::fabs(dx / dy)));
+        RoundedWithin(static_cast<long double>(a.X) + t * dx, OffLine * (2 + std::fabs(dx / dy)));
     cuts.push_back({t, x1, x2, line * side, line * side});
   }
   std::stable_sort(cuts.begin(), cuts.end(), [](const Rounded& p, const Rounded& q) { return p.t < q.t; });
@@ -311,14 +313,17 @@ inline void EnterStretch(const Rounded& a, const Rounded& b, std::int64_t side, 
 /// A vertex on a line is kept a hair beside it, in one of the squares; a flat edge from there to the other
 /// side crosses the line some Points away.
 inline void EnterVertexOnLine(LatticePoint at, LatticePoint neighbour, std::int64_t side, LineBook& book) {
-  const auto dx = static_cast<long double>(neighbour.X - at.X), dy = static_cast<long double>(neighbour.Y - at.Y);
+  const auto dx = static_cast<long double>(neighbour.X - at.X),
+             dy = static_cast<long double>(neighbour.Y - at.Y);
   const auto reach = [](long double along, long double across) {
     return std::llround(std::min(std::fabs(along), OffLine * (2 + std::fabs(along / across))));
   };
   if (at.Y % side == 0 && dy != 0 && reach(dx, dy) > 0)
-    book.Doubtful.push_back({false, at.Y / side, at.X - (dx < 0 ? reach(dx, dy) : 0), at.X + (dx > 0 ? reach(dx, dy) : 0)});
+    book.Doubtful.push_back(
+        {false, at.Y / side, at.X - (dx < 0 ? reach(dx, dy) : 0), at.X + (dx > 0 ? reach(dx, dy) : 0)});
   if (at.X % side == 0 && dx != 0 && reach(dy, dx) > 0)
-    book.Doubtful.push_back({true, at.X / side, at.Y - (dy < 0 ? reach(dy, dx) : 0), at.Y + (dy > 0 ? reach(dy, dx) : 0)});
+    book.Doubtful.push_back(
+        {true, at.X / side, at.Y - (dy < 0 ? reach(dy, dx) : 0), at.Y + (dy > 0 ? reach(dy, dx) : 0)});
 }
 
 inline void EnterRing(const LatticeRing& ring, std::int64_t side, LineBook& book) {
@@ -352,7 +357,8 @@ inline void JudgeLines(const LineBook& book, TilingVerdict& verdict) {
   add(book.Ring, -1, 0);
   add(book.Doubtful, 0, 1);
   const auto key = [](const LineEvent& e) { return std::tuple(e.IsMeridian, e.Line, e.At); };
-  std::sort(events.begin(), events.end(), [&](const LineEvent& a, const LineEvent& b) { return key(a) < key(b); });
+  std::sort(events.begin(), events.end(),
+            [&](const LineEvent& a, const LineEvent& b) { return key(a) < key(b); });
   int balance = 0, doubt = 0;
   for (std::size_t k = 0; k + 1 < events.size(); ++k) {
     const LineEvent &e = events[k], &next = events[k + 1];
@@ -379,8 +385,8 @@ inline std::string FaultOfPiece(const LatticeRing& points, std::int64_t side) {
 
 }  // namespace judging
 
-/// `ring`: clockwise, no edges that cross. `side`: of a square, in Points. Corners of pieces that lie one Point
-/// outside their square, as terrain has them, count as lying in it.
+/// `ring`: clockwise, no edges that cross. `side`: of a square, in Points. Corners of pieces that lie one
+/// Point outside their square, as terrain has them, count as lying in it.
 inline TilingVerdict JudgeTiling(const LatticeRing& ring, const std::vector<ReadPiece>& pieces,
                                  std::int64_t side) {
   using namespace judging;
