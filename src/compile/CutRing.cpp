@@ -36,8 +36,8 @@ float AltitudeBetween(const CutVertex& from, const CutVertex& to, double lat, do
   return static_cast<float>(low + share * (static_cast<double>(to.Alt) - low));
 }
 
-bool IsOnLine(double value, double spacing) {
-  return std::floor(value / spacing) * spacing == value;
+double DistanceToLine(double value, double spacing) {
+  return std::fabs(value - std::round(value / spacing) * spacing);
 }
 
 /// One axis: across which lines edges are cut, and along them.
@@ -82,7 +82,13 @@ private:
     CutVertex cut;
     cut.*m_axis.Across = line + nudge;
     cut.*m_axis.Along = from.*m_axis.Along + (to.*m_axis.Along - from.*m_axis.Along) * share;
-    if (IsOnLine(cut.*m_axis.Along, m_axis.CrossSpacing)) cut.*m_axis.Along += m_axis.OffCorner;
+    const double fromCorner = DistanceToLine(cut.*m_axis.Along, m_axis.CrossSpacing);
+    constexpr double indistinct = 1e-11;  // sums with 180 degrees cannot tell it from the line
+    const bool onCorner = fromCorner < indistinct;
+    if (onCorner) cut.*m_axis.Along += m_axis.OffCorner;
+    // The cut over the other line at the same corner goes with it.
+    const bool besideOne = from.AtCorner || to.AtCorner;
+    cut.AtCorner = onCorner || (besideOne && fromCorner < 2 * std::fabs(m_axis.OffCorner));
     cut.Crossing = DrawnCrossing(line);
     cut.Alt = AltitudeBetween(from, to, cut.Lat, cut.Lon);
     return cut;

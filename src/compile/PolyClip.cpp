@@ -81,7 +81,9 @@ private:
 
   /// True when the pieces are what the ring encloses in the square.
   bool TryPlainWalk(const VisitedSquare& square, std::vector<ClosedRing>& rings) const {
-    if (square.RunCount > MostWalkedCrossings) return false;
+    const auto isAtCorner = [](const SquarePoint& point) { return point.AtCorner; };
+    if (square.RunCount > MostWalkedCrossings || std::any_of(m_list.begin(), m_list.end(), isAtCorner))
+      return false;
     if (m_list.size() >= 2) rings = WalkPoints(m_list, m_rules.Side, m_rules.DropSpikes);
     if (rings.empty() && square.EnclosedArea2 > RoundArea2() / 2) rings.push_back(WholeSquare());
     std::int64_t area2 = 0;

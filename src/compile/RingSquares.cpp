@@ -50,6 +50,7 @@ PlacedVertex Placed(const CutVertex& vertex, SquareGrid grid) {
   }
   placed.Point.Alt = vertex.Alt;
   placed.Point.Mark = vertex.Mark;
+  placed.Point.AtCorner = vertex.AtCorner;
   if (IsCut(vertex.Mark)) placed.Point.Border = BorderPlace(vertex, placed, grid);
   return placed;
 }
