@@ -14,7 +14,7 @@ namespace landsmith::test {
 /// The same numbers on every machine.
 class Chance {
 public:
-  explicit Chance(std::uint64_t seed) : m_state(seed * 0x9E3779B97F4A7C15ULL + 0x1234567) {}
+  explicit Chance(std::uint64_t seed) : m_state(seed) { m_state = Next() ^ (seed << 32); }
   std::uint64_t Next() {
     std::uint64_t z = m_state += 0x9E3779B97F4A7C15ULL;
     z = (z ^ (z >> 30)) * 0xBF58476D1CE4E5B9ULL;
