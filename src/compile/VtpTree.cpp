@@ -1,26 +1,35 @@
 #include "compile/VtpTree.h"
 
+#include "compile/CellOrder.h"
 #include "compile/Prefetch.h"
 
-#include <algorithm>
 #include <cstddef>
-#include <tuple>
 #include <unordered_map>
 #include <utility>
 
 namespace landsmith {
 namespace {
 
+VtpPoly ToPoly(LineRun&& run) {
+  return {run.Name, std::move(run.Points)};
+}
+ConvexPart ToPoly(VtpPolyRec&& poly) {
+  return std::move(poly.Points);
+}
+
 /// Where the layers and textures of one Cell stand. The Cells are filled one after the other, so that what is
 /// looked up stays small however many Cells there are.
+template <class Poly>
 class CellFiller {
 public:
-  void Add(VtpCell& cell, LineRun&& run) {
-    const auto layer = static_cast<std::uint32_t>(run.Layer);
-    VtpLayer& inLayer = FindOrAppend(cell.Layers, m_layers, layer, VtpLayer{run.Layer, {}});
-    const std::uint64_t texture = (std::uint64_t{layer} << 32U) | static_cast<std::uint32_t>(run.TexId);
-    VtpTexture& inTexture = FindOrAppend(inLayer.Textures, m_textures, texture, VtpTexture{run.TexId, {}});
-    inTexture.Polys.push_back({run.Name, std::move(run.Points)});
+  template <class Piece>
+  void Add(VtpCellOf<Poly>& cell, Piece&& piece) {
+    const auto layer = static_cast<std::uint32_t>(piece.Layer);
+    auto& inLayer = FindOrAppend(cell.Layers, m_layers, layer, VtpLayerOf<Poly>{piece.Layer, {}});
+    const std::uint64_t texture = (std::uint64_t{layer} << 32U) | static_cast<std::uint32_t>(piece.TexId);
+    auto& inTexture =
+        FindOrAppend(inLayer.Textures, m_textures, texture, VtpTextureOf<Poly>{piece.TexId, {}});
+    inTexture.Polys.push_back(ToPoly(std::forward<Piece>(piece)));
   }
 
   void Clear() {
@@ -42,40 +51,32 @@ private:
   PlaceOf m_layers, m_textures;
 };
 
-struct RunPlace {
-  std::int32_t cellY = 0, cellX = 0;
-  std::size_t run = 0;
-};
-
-/// By Cell row, then column, then as they come.
-std::vector<RunPlace> CellOrder(const std::vector<LineRun>& runs) {
-  std::vector<RunPlace> order;
-  order.reserve(runs.size());
-  for (std::size_t i = 0; i < runs.size(); ++i)
-    order.push_back({runs[i].CellY, runs[i].CellX, i});
-  std::sort(order.begin(), order.end(), [](const RunPlace& a, const RunPlace& b) {
-    return std::tie(a.cellY, a.cellX, a.run) < std::tie(b.cellY, b.cellX, b.run);
-  });
-  return order;
+template <class Poly, class Piece>
+std::vector<VtpCellOf<Poly>> Grouped(std::vector<Piece> pieces) {
+  std::vector<VtpCellOf<Poly>> cells;
+  CellFiller<Poly> filler;
+  const std::vector<CellPlace> order = InCellOrder(pieces);
+  constexpr std::size_t ahead = 8;
+  for (std::size_t i = 0; i < order.size(); ++i) {
+    if (i + ahead < order.size()) Prefetch(&pieces[order[i + ahead].Place]);
+    const CellPlace& place = order[i];
+    if (cells.empty() || !place.InCell(cells.back().CellX, cells.back().CellY)) {
+      cells.push_back({place.CellX, place.CellY, {}});
+      filler.Clear();
+    }
+    filler.Add(cells.back(), std::move(pieces[place.Place]));
+  }
+  return cells;
 }
 
 }  // namespace
 
 std::vector<VtpCell> GroupRuns(std::vector<LineRun> runs) {
-  std::vector<VtpCell> cells;
-  CellFiller filler;
-  const std::vector<RunPlace> order = CellOrder(runs);
-  constexpr std::size_t ahead = 8;
-  for (std::size_t i = 0; i < order.size(); ++i) {
-    if (i + ahead < order.size()) Prefetch(&runs[order[i + ahead].run]);
-    const RunPlace& place = order[i];
-    if (cells.empty() || cells.back().CellX != place.cellX || cells.back().CellY != place.cellY) {
-      cells.push_back({place.cellX, place.cellY, {}});
-      filler.Clear();
-    }
-    filler.Add(cells.back(), std::move(runs[place.run]));
-  }
-  return cells;
+  return Grouped<VtpPoly>(std::move(runs));
+}
+
+std::vector<VtpPolyCell> GroupPolys(std::vector<VtpPolyRec> polys) {
+  return Grouped<ConvexPart>(std::move(polys));
 }
 
 }  // namespace landsmith

@@ -1,7 +1,9 @@
-// Runs grouped by Cell, layer and texture, as the output names them. Also the shape that polygons take.
+// Pieces of vector terrain grouped by Cell, layer and texture, as the output names them. Lines and polygons
+// differ in what a poly holds alone.
 #pragma once
 
 #include "compile/VtpClip.h"
+#include "vector/ConvexParts.h"
 
 #include <cstdint>
 #include <string_view>
@@ -9,24 +11,40 @@
 
 namespace landsmith {
 
+template <class Poly>
+struct VtpTextureOf {
+  std::int32_t TexId = 0;
+  std::vector<Poly> Polys;
+};
+template <class Poly>
+struct VtpLayerOf {
+  std::int32_t Layer = 0;
+  std::vector<VtpTextureOf<Poly>> Textures;
+};
+template <class Poly>
+struct VtpCellOf {
+  std::int32_t CellX = 0, CellY = 0;
+  std::vector<VtpLayerOf<Poly>> Layers;
+};
+
+/// A piece of a line.
 struct VtpPoly {
   std::string_view Name;  ///< kept by the project
   std::vector<RunPoint> Points;
 };
-struct VtpTexture {
+using VtpCell = VtpCellOf<VtpPoly>;
+
+/// One convex piece of a polygon, in points of its Cell.
+struct VtpPolyRec {
   std::int32_t TexId = 0;
-  std::vector<VtpPoly> Polys;
-};
-struct VtpLayer {
   std::int32_t Layer = 0;
-  std::vector<VtpTexture> Textures;
-};
-struct VtpCell {
   std::int32_t CellX = 0, CellY = 0;
-  std::vector<VtpLayer> Layers;
+  ConvexPart Points;
 };
+using VtpPolyCell = VtpCellOf<ConvexPart>;
 
 /// Cells by row, then column; layers, textures and polys in order of first appearance.
 std::vector<VtpCell> GroupRuns(std::vector<LineRun> runs);
+std::vector<VtpPolyCell> GroupPolys(std::vector<VtpPolyRec> polys);
 
 }  // namespace landsmith
