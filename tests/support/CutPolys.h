@@ -2,7 +2,7 @@
 #pragma once
 
 #include "compile/LwmPolys.h"
-#include "compile/PolyClip.h"
+#include "compile/VtpPolys.h"
 #include "core/Project.h"
 #include "support/PieceReader.h"
 
@@ -31,17 +31,11 @@ inline std::vector<ReadPiece> LakePieces(const std::vector<PolyPoint>& points) {
   return sources.Flat ? ReadMaskPieces(*sources.Flat) : std::vector<ReadPiece>{};
 }
 
-/// Pieces of Cells before they are broken into convex parts.
-inline std::vector<ReadPiece> CellPieces(const ClippedPoly& clipped) {
-  std::vector<ReadPiece> pieces;
-  for (const PolyPiece& piece : clipped.Pieces) {
-    ReadPiece& read = pieces.emplace_back();
-    read.SquareX = piece.CellX;
-    read.SquareY = piece.CellY;
-    for (const PiecePoint& at : clipped.PointsOf(piece))
-      read.Points.push_back({at.X - CellPointMin, at.Y - CellPointMin});
-  }
-  return pieces;
+/// The convex pieces of a field.
+inline std::vector<ReadPiece> TerrainPieces(const std::vector<PolyPoint>& points) {
+  const ProjectState project = ProjectOf(SelectedPoly(points, "VTP//4//2001//"));
+  const std::optional<std::string> text = VtpPolySource(project, AppSettings{});
+  return text ? ReadTerrainPieces(*text) : std::vector<ReadPiece>{};
 }
 
 }  // namespace landsmith::test

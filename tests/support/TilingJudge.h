@@ -373,14 +373,10 @@ inline void JudgeLines(const LineBook& book, TilingVerdict& verdict) {
   }
 }
 
-inline std::string FaultOfPiece(const LatticeRing& points, std::int64_t side) {
-  LatticeRing different = points;
-  std::sort(different.begin(), different.end());
-  different.erase(std::unique(different.begin(), different.end()), different.end());
-  if (different.size() < 3) return "a piece of fewer than three different points";
-  for (const LatticePoint& at : points)
-    if (at.X < 0 || at.Y < 0 || at.X > side || at.Y > side) return "a point outside its square";
-  return {};
+inline bool HasThreePoints(LatticeRing points) {
+  std::sort(points.begin(), points.end());
+  points.erase(std::unique(points.begin(), points.end()), points.end());
+  return points.size() >= 3;
 }
 
 }  // namespace judging
@@ -398,12 +394,14 @@ inline TilingVerdict JudgeTiling(const LatticeRing& ring, const std::vector<Read
   rings.reserve(pieces.size());
   for (const ReadPiece& piece : pieces) {
     LatticeRing& points = rings.emplace_back(piece.Points);
+    const std::string name = Named(piece.SquareX, piece.SquareY);
+    if (!HasThreePoints(points)) verdict.Faults.push_back(name + "fewer than three different points");
     for (LatticePoint& at : points) {
       const auto onSide = [&](std::int64_t v) { return v == -1 ? 0 : v == side + 1 ? side : v; };
       if (side == PointsPerCell) at = {onSide(at.X), onSide(at.Y)};
+      if (at.X < 0 || at.Y < 0 || at.X > side || at.Y > side)
+        verdict.Faults.push_back(name + "a point outside the square");
     }
-    const std::string fault = FaultOfPiece(points, side);
-    if (!fault.empty()) verdict.Faults.push_back(Named(piece.SquareX, piece.SquareY) + fault);
     bySquare[{piece.SquareX, piece.SquareY}].push_back(&points);
     EnterPiece(piece, points, side, book);
   }
@@ -417,11 +415,6 @@ inline TilingVerdict JudgeTiling(const LatticeRing& ring, const std::vector<Read
   EnterRing(ring, side, book);
   JudgeLines(book, verdict);
   return verdict;
-}
-
-/// A mask's piece has an area and runs clockwise.
-inline bool IsClockwise(const ReadPiece& piece) {
-  return TwiceArea(piece.Points) > 0;
 }
 
 /// No vertex turns to the left, and the ring goes round once.
@@ -438,6 +431,24 @@ inline bool IsConvex(const ReadPiece& piece) {
     if (direction != 0) last = direction;
   }
   return reversals <= 2;
+}
+
+/// Of a mask's pieces, each of which must have an area and run clockwise besides.
+inline std::vector<std::string> FaultsOfMask(const LatticeRing& ring, const std::vector<ReadPiece>& pieces) {
+  std::vector<std::string> faults = JudgeTiling(ring, pieces, PointsPerArea).Faults;
+  for (const ReadPiece& piece : pieces)
+    if (TwiceArea(piece.Points) <= 0)
+      faults.push_back(judging::Named(piece.SquareX, piece.SquareY) + "no area, or against the clock");
+  return faults;
+}
+
+/// Of terrain, whose pieces must be convex besides.
+inline std::vector<std::string> FaultsOfTerrain(const LatticeRing& ring,
+                                                const std::vector<ReadPiece>& pieces) {
+  std::vector<std::string> faults = JudgeTiling(ring, pieces, PointsPerCell).Faults;
+  for (const ReadPiece& piece : pieces)
+    if (!IsConvex(piece)) faults.push_back(judging::Named(piece.SquareX, piece.SquareY) + "not convex");
+  return faults;
 }
 
 }  // namespace landsmith::test
