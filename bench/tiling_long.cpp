@@ -62,6 +62,8 @@ void PrintFailure(const Judge& judge, std::uint64_t seed, const RandomPoly& poly
     std::printf("  %.17g, %.17g\n", at.Lat, at.Lon);
 }
 
+constexpr int MostPrinted = 100;
+
 /// The number of polygons that fail.
 int Run(const char* name, std::int64_t unit, const Judge& judge, std::uint64_t first, std::uint64_t count) {
   const auto start = std::chrono::steady_clock::now();
@@ -74,7 +76,7 @@ int Run(const char* name, std::int64_t unit, const Judge& judge, std::uint64_t f
     ++ofKind[kind];
     if (!FaultsOf(judge, poly.Points).empty()) {
       ++failedOfKind[kind];
-      if (++failures <= 20) PrintFailure(judge, seed, poly);
+      if (++failures <= MostPrinted) PrintFailure(judge, seed, poly);
     }
     const ClippedPoly clipped =
         unit == PointsPerArea ? ClipPolyToAreas(poly.Points, nullptr) : ClipPolyToCells(poly.Points);

@@ -410,8 +410,11 @@ inline TilingVerdict JudgeTiling(const LatticeRing& ring, const std::vector<Read
     const auto found = bySquare.extract({square.X, square.Y});
     JudgeSquare(square, found ? found.mapped() : std::vector<const LatticeRing*>{}, side, verdict);
   }
-  for (const auto& [square, unused] : bySquare)
-    verdict.Faults.push_back(Named(square.first, square.second) + "pieces where the ring has none");
+  for (const auto& [square, found] : bySquare)
+    if (square.first >= PointsPerCell * 768 / side ||
+        std::any_of(found.begin(), found.end(),
+                    [](const LatticeRing* piece) { return TwiceArea(*piece) != 0; }))
+      verdict.Faults.push_back(Named(square.first, square.second) + "pieces where the ring has none");
   EnterRing(ring, side, book);
   JudgeLines(book, verdict);
   return verdict;
@@ -433,12 +436,12 @@ inline bool IsConvex(const ReadPiece& piece) {
   return reversals <= 2;
 }
 
-/// Of a mask's pieces, each of which must have an area and run clockwise besides.
+/// Of a mask's pieces, which must run clockwise besides. A piece may be without area.
 inline std::vector<std::string> FaultsOfMask(const LatticeRing& ring, const std::vector<ReadPiece>& pieces) {
   std::vector<std::string> faults = JudgeTiling(ring, pieces, PointsPerArea).Faults;
   for (const ReadPiece& piece : pieces)
-    if (TwiceArea(piece.Points) <= 0)
-      faults.push_back(judging::Named(piece.SquareX, piece.SquareY) + "no area, or against the clock");
+    if (TwiceArea(piece.Points) < 0)
+      faults.push_back(judging::Named(piece.SquareX, piece.SquareY) + "against the clock");
   return faults;
 }
 
