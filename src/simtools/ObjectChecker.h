@@ -53,8 +53,9 @@ private:
   };
   struct OpenVersion {
     std::size_t Line = 0;
-    std::optional<std::size_t> Textures, Materials, Vertices;  ///< entries; nothing: there is no such list
-    bool HasMaterial = false, HasTexture = false;              ///< set for what is drawn
+    std::optional<std::size_t> Textures, Materials,
+        Vertices;                                  ///< entries, 0: unreadable; nothing: no such list
+    bool HasMaterial = false, HasTexture = false;  ///< set for what is drawn
   };
 
   void Fail(const Statement& statement, const std::string& reason) {

@@ -61,7 +61,7 @@ std::optional<std::size_t> ObjectChecker::Entries(const Statement& statement, st
 void ObjectChecker::TextureList(const Statement& statement, bool complete) {
   if (!ExpectList(statement, &OpenVersion::Textures) || !complete) return;
   const auto entries = Entries(statement, TextureWords, "a texture", 1);
-  m_version->Textures = entries;
+  m_version->Textures = entries.value_or(0);
   for (std::size_t entry = 0; entry < entries.value_or(0); ++entry)
     CheckTexture(statement, 1 + TextureWords * entry);
 }
@@ -84,7 +84,7 @@ void ObjectChecker::CheckTexture(const Statement& statement, std::size_t first) 
 void ObjectChecker::MaterialList(const Statement& statement, bool complete) {
   if (!ExpectList(statement, &OpenVersion::Materials) || !complete) return;
   const auto entries = Entries(statement, MaterialNumbers, "a material", 1);
-  m_version->Materials = entries;
+  m_version->Materials = entries.value_or(0);
   for (std::size_t number = 0; number < entries.value_or(0) * MaterialNumbers; ++number) {
     const bool isPower = number % MaterialNumbers == MaterialNumbers - 1;
     RealArgument(statement, 1 + number,
@@ -97,7 +97,7 @@ void ObjectChecker::MaterialList(const Statement& statement, bool complete) {
 void ObjectChecker::VertexList(const Statement& statement, bool complete) {
   if (!ExpectList(statement, &OpenVersion::Vertices) || !complete) return;
   const auto entries = Entries(statement, VertexNumbers, "a vertex", 3);
-  m_version->Vertices = entries;
+  m_version->Vertices = entries.value_or(0);
   for (std::size_t number = 0; number < entries.value_or(0) * VertexNumbers; ++number)
     RealArgument(statement, 1 + number, {"a number of a vertex", -AnySize, AnySize}, m_errors);
 }
@@ -110,6 +110,7 @@ void ObjectChecker::SetMaterial(const Statement& statement, bool complete) {
                          std::optional<std::size_t> entries) {
     const auto last = static_cast<std::int64_t>(entries.value_or(0)) - 1;
     const auto number = ParseWholeNumber(statement.Arguments[index]);
+    if (entries == 0) return number.value_or(least);  // the list could not be read, which is said
     if (!number)
       NumberArgument(statement, index, {what, least, last}, m_errors);
     else if (*number < least || *number > last)

@@ -27,6 +27,8 @@ struct SourceCheck {
   Scenery Subject = Scenery::Any;
   bool IsMixed = false;
   LabelScope Labels{Errors};
+  std::size_t BoundsLine = 0;  ///< of bounds that could be read
+  std::vector<ScmError> Warnings;
   std::vector<ScmError> HeldPoints;
   LwmChecker Lwm{Errors};
   VtpChecker Vtp{Errors, HeldPoints};
@@ -66,11 +68,17 @@ void CheckHeader(SourceCheck& check, const Statement& statement, bool complete) 
   check.Header.South = read(2, {"the southern bound", -91, 91});
   check.Header.East = read(3, {"the eastern bound", -181, 181});
   check.Header.West = read(4, {"the western bound", -181, 181});
-  if (check.Errors.size() != before) return;
+  if (check.Errors.size() == before) check.BoundsLine = statement.Line;
+}
+
+/// Masks of a single fill come with bounds the wrong way round, and readers take only their middle.
+void CheckOrderOfBounds(SourceCheck& check) {
+  if (check.BoundsLine == 0) return;
+  auto& list = check.Subject == Scenery::Masks ? check.Warnings : check.Errors;
   if (check.Header.North <= check.Header.South)
-    check.Fail(statement.Line, "Header: the northern bound is not north of the southern one");
+    list.push_back({check.BoundsLine, "Header: the northern bound is not north of the southern one"});
   if (check.Header.East <= check.Header.West)
-    check.Fail(statement.Line, "Header: the eastern bound is not east of the western one");
+    list.push_back({check.BoundsLine, "Header: the eastern bound is not east of the western one"});
 }
 
 /// What stands on the Header's bounds.
@@ -224,6 +232,7 @@ CheckedSource CheckScm(const ScmSource& source) {
   if (check.Subject == Scenery::Masks) check.Lwm.Finish(lastLine);
   if (check.Subject == Scenery::VectorTerrain) check.Vtp.Finish(lastLine);
   check.Objects.Finish();
+  CheckOrderOfBounds(check);
 
   CheckedSource checked;
   checked.Header = check.Header;
@@ -233,6 +242,7 @@ CheckedSource CheckScm(const ScmSource& source) {
   std::stable_sort(check.Errors.begin(), check.Errors.end(),
                    [](const ScmError& a, const ScmError& b) { return a.Line < b.Line; });
   checked.Errors = std::move(check.Errors);
+  checked.Warnings = std::move(check.Warnings);
   checked.HeldPoints = std::move(check.HeldPoints);
   return checked;
 }

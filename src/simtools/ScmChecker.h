@@ -17,6 +17,7 @@ struct CheckedSource {
   std::optional<VtpFile> Vtp;     ///< its vector terrain
   std::size_t TexturedAreas = 0;  ///< its textured polygons, of which nothing is kept
   std::vector<ScmError> Errors;  ///< by line, those of the parser included; the rest counts without any alone
+  std::vector<ScmError> Warnings;    ///< what is odd, but stays as it is said
   std::vector<ScmError> HeldPoints;  ///< by line: points that the file holds in another place than they say
 };
 
