@@ -40,25 +40,21 @@
 // Data of a cell of masks: one item after the other. x and y count its 32 by 32 Areas from the north-west.
 //   item      u16 polygons (3 bits) | type << 3 | fill of size 1 << 5 | x << 6 | y << 11; 7 polygons mean
 //             that a u8 with the polygons above 7 follows; then the polygons
-//   fill      an item of 0 polygons; the type is 0 water, 1 land, 2 flatten, and an altitude follows unless
-//   it
-//             is land. Sizes above 1 are told by the lowest bit that is set in x, which is half the size
-//   polygon   u8 points (6 bits) | land << 7; an altitude, in format 768 two, of the altitude bytes 0 and
-//   255;
-//             63 points mean that a u8 with the points above 63 follows. Flatten polygons are in items of
-//             type 2, water and land in those of type 3
+//   fill      an item of 0 polygons; the type is 0 water, 1 land, 2 flatten, and an altitude follows, but
+//             not for land. Sizes above 1 are told by the lowest bit that is set in x, half the size
+//   polygon   u8 points (6 bits) | land << 7; an altitude, in format 768 two, of the altitude bytes 0
+//             and 255; 63 points mean that a u8 with the points above 63 follows. Flatten polygons are in
+//             items of type 2, water and land in those of type 3
 //   point     u8 x, u8 y, from the Area's north-west corner, 255 to the next; in format 768 a u8 altitude
 //   altitude  i16 whole metres, rounded down; u8 1/128 metre above them, 0 to 127, so -3.5 is -4 and 64
 // A fill of size 32 has no bit in x of its own, since readers know five sizes: it is written as four fills of
 // size 16. A fill that the source wants as polygons becomes a polygon of the four corners for each Area.
 //
 // Data of a cell of vector terrain: one record after the other.
-//   record    u16 layers (5 bits) | whole Cell << 5 | x << 6 | y << 11; then its layers. An Area or Cell of
-//   more
-//             than 31 layers takes several records
+//   record    u16 layers (5 bits) | whole Cell << 5 | x << 6 | y << 11; then its layers. An Area or Cell
+//             of more than 31 layers takes several records
 //   layer     u8 low 6 bits of the number | replaces << 6 | 7th bit of the number << 7; count of textures;
-//   the
-//             textures. Readers of features take 6 bits for the number, so a layer above 63 has no textures
+//             the textures. Readers of features take 6 bits for the number, so a layer above 63 has none
 //   texture   count: place in the texture list from 0; count of features; the features
 //   feature   u8 points (5 bits) | kind << 5; 31 points mean that a u16 with the points above 31 follows
 //   count     u8 below 128; otherwise u8 low 7 bits | 128, u8 the rest

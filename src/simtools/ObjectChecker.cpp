@@ -1,6 +1,5 @@
 #include "simtools/ObjectChecker.h"
 
-#include "core/Text.h"
 #include "simtools/BglLayout.h"
 
 namespace landsmith::simtools {

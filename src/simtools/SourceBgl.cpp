@@ -50,7 +50,7 @@ std::string BglOf(const CheckedSource& source) {
 std::string ContentOf(const CheckedSource& source) {
   if (source.Lwm) return LwmContent(*source.Lwm);
   if (source.Vtp) return VtpContent(*source.Vtp);
-  const std::string section = "the header alone, this stand-in writes no section for such a source";
+  std::string section = "the header alone, this stand-in writes no section for such a source";
   if (source.TexturedAreas == 0) return section;
   return section + "; " + Counted(source.TexturedAreas, "textured polygon") + " checked";
 }
