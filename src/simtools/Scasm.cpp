@@ -4,8 +4,7 @@
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 #include "simtools/BglLayout.h"
-#include "simtools/BglWriter.h"
-#include "simtools/ScmChecker.h"
+#include "simtools/SourceBgl.h"
 
 #include <optional>
 #include <ostream>
@@ -39,10 +38,14 @@ std::string ErrorLines(const std::string& file, const std::vector<ScmError>& err
   return text;
 }
 
+void TellWarnings(const std::string& file, const std::vector<ScmError>& warnings, std::ostream& out) {
+  for (const ScmError& warning : warnings)
+    out << file << "(" << warning.Line << "): warning: " << warning.Reason << "\n";
+}
+
 /// What an author should know about a file that is written all the same.
 void TellHeldPoints(const std::string& file, const std::vector<ScmError>& points, std::ostream& out) {
-  for (const ScmError& point : points)
-    out << file << "(" << point.Line << "): warning: " << point.Reason << "\n";
+  TellWarnings(file, points, out);
   if (!points.empty())
     out << points.size() << (points.size() == 1 ? " point lies" : " points lie") << " outside of 0 to "
         << bgl::LargestPoint
@@ -72,12 +75,10 @@ int Compile(const std::string& source, const std::filesystem::path& folder, std:
   }
   const CheckedSource checked = CheckScm(ParseScm(bytes));
   if (!checked.Errors.empty()) return Refuse(log, ErrorLines(source, checked.Errors), out);
-  WriteWholeFile(bgl, WriteBgl(checked.Header, checked.Vtp ? VtpBlock(*checked.Vtp) : std::string()));
+  WriteWholeFile(bgl, BglOf(checked));
+  TellWarnings(source, checked.Warnings, out);
   TellHeldPoints(source, checked.HeldPoints, out);
-  if (checked.Vtp)
-    out << PathText(bgl) << ": " << checked.Vtp->Cells.size() << " cells of vector terrain\n";
-  else
-    out << PathText(bgl) << ": the header alone, this stand-in writes no section for such a source\n";
+  out << PathText(bgl) << ": " << ContentOf(checked) << "\n";
   return 0;
 }
 

@@ -65,6 +65,14 @@ TEST_F(Programs, ScasmTellsThePointsThatItHeld) {
   EXPECT_THAT(Log("scasm.log"), HasSubstr("1 point lies outside of 0 to 16383"));
 }
 
+TEST_F(Programs, ScasmWritesMasksAndWarnsOfTheBoundsOfALoneFill) {
+  WriteWholeFile(m_tools / "work/X.scm", ReplaceAll(test::OneLake, "1 48 47 9 8", "1 -89 90 -179 180"));
+  EXPECT_EQ(Run("scasm work\\X.scm -l"), 0);
+  EXPECT_THAT(Log("scasm.log"), HasSubstr("work/X.scm(3): warning: Header: the northern bound is not"));
+  EXPECT_THAT(Log("scasm.log"), HasSubstr("1 cell of masks"));
+  EXPECT_EQ(landsmith::test::ReadLwmFile(ReadWholeFile(m_tools / "work/X.BGL")).Cells.size(), 1U);
+}
+
 TEST_F(Programs, ScasmSaysWhenItWritesNoSection) {
   WriteWholeFile(m_tools / "work/X.scm", "Header( 1 48 47 9 8 )\r\n");
   EXPECT_EQ(Run("scasm work\\X.scm -l"), 0);

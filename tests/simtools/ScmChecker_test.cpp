@@ -1,5 +1,6 @@
 #include "simtools/ScmChecker.h"
 
+#include "Faults.h"
 #include "Sources.h"
 #include "core/Text.h"
 #include "platform/Paths.h"
@@ -13,19 +14,12 @@
 
 namespace landsmith::simtools {
 
+using test::ExpectFaults;
+using test::FaultRow;
 using test::OneRoad;
 using testing::HasSubstr;
 
 namespace {
-
-struct FaultRow {
-  const char* name;
-  const char* from;  ///< what the fault replaces in OneRoad
-  const char* to;
-  std::size_t line;
-  const char* reason;
-  std::size_t errors = 1;  ///< more where one fault hides what later statements refer to
-};
 
 constexpr const char* EndOfIndex = "        401 120 0\n";
 
@@ -46,7 +40,7 @@ const FaultRow FaultRows[] = {
     {"area beyond 31", "1 1 17 24", "1 1 17 32", 9, "y is 32", 2},
     {"layer beyond 6 bits", "( 13 1 1 0", "( 64 1 1 0", 10, "the layer is 64"},
     {"replace flag", "( 13 1 1 0", "( 13 2 1 0", 10, "the replace flag is 2"},
-    {"kind of poly", "( 2 4 1 )", "( 2 4 0 )", 15, "the kind is 0, it must be 1"},
+    {"kind of poly", "( 2 4 1 )", "( 2 4 2 )", 15, "the kind is 2, allowed is 0 to 1"},
     {"texture that is not listed", "VTPTexID( 0 0", "VTPTexID( 1 0", 11, "there is no texture 1"},
     {"latitude beyond the pole", "1 48 47", "1 92 47", 3, "the northern bound is 92"},
     {"bounds the wrong way", "1 48 47 9 8", "1 48 47 8 9", 3, "not east of"},
@@ -84,18 +78,24 @@ const FaultRow FaultRows[] = {
     {"effect on a number", "153 0 0 0 4", "153 0 1 0 4 wave", 27, "is no bitmap and has an effect"},
     {"type beyond 4 bits", "153 0 0", "153 16 0", 27, "the texture type is 16"}};
 
+const FaultRow AreaRows[] = {
+    {"step in a polygon", "VTPPointXY( 8160 5000 )", "VTPWPoint( 8160 5000 0 )", 13,
+     "in a VTPPoly of kind 0"},
+    {"place in a line", "VTPPoly( 2 3 0 )", "VTPPoly( 2 3 1 )", 12, "in a VTPPoly of kind 1", 3},
+    {"two points", "( 2 3 0 )", "( 2 2 0 )", 11, "the number of points is 2, allowed is 3"},
+    {"points", "( 2 3 0 )", "( 2 4 0 )", 11, "announces 4 points, 3 found"},
+    {"point beyond 16 bits", "8160 5000", "65536 5000", 13, "x is 65536"},
+    {"place without a poly", "   VTPPoly( 2 3 0 )\n", "", 9, "announces 1 polys, 0 found", 4},
+    {"layer twice", "VTPLayer( 100", "VTPLayer( 64", 18, "has the layer 64 twice"},
+    {"layer beyond 7 bits", "VTPLayer( 100", "VTPLayer( 128", 20, "the layer is 128"},
+    {"high layer with a texture", "( 4 0 1 0 )", "( 64 0 1 0 )", 7, "the layer is 64, allowed is 0 to 63"},
+    {"Area twice", "0 8 31", "0 7 31", 16, "two VTPAreas at 7 31"},
+    {"texture numbers", "100 2 0 0 4", "100 2 0 4", 29, "100 wants four numbers"},
+};
+
 TEST(ScmFaults, AreReportedWithLineAndReason) {
-  for (const FaultRow& row : FaultRows) {
-    SCOPED_TRACE(row.name);
-    const std::string source = ReplaceAll(OneRoad, row.from, row.to);
-    ASSERT_NE(source, OneRoad) << "the row changes nothing";
-    const CheckedSource checked = CheckScm(ParseScm(source));
-    ASSERT_FALSE(checked.Errors.empty());
-    EXPECT_EQ(checked.Errors.front().Line, row.line);
-    EXPECT_THAT(checked.Errors.front().Reason, HasSubstr(row.reason));
-    EXPECT_EQ(checked.Errors.size(), row.errors)
-        << "then: " << checked.Errors.back().Line << " " << checked.Errors.back().Reason;
-  }
+  ExpectFaults(OneRoad, FaultRows);
+  ExpectFaults(test::OneAreaAndExclusions, AreaRows);
 }
 
 TEST(ScmChecker, HoldsPlacesToWhatTheFileCanHold) {
@@ -137,15 +137,15 @@ TEST(ScmChecker, TakesABitmapAloneOnItsLineAsATextureEntry) {
 }
 
 TEST(ScmChecker, AcceptsEveryGoldenSource) {
-  const std::filesystem::path cases = std::filesystem::path(LANDSMITH_SOURCE_DIR) / "tests/golden/vtp";
+  const std::filesystem::path cases = std::filesystem::path(LANDSMITH_SOURCE_DIR) / "tests/golden";
   std::size_t seen = 0;
-  for (const auto& entry : std::filesystem::directory_iterator(cases)) {
-    if (!entry.is_directory()) continue;
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(cases)) {
+    if (entry.path().extension() != ".scm") continue;
     ++seen;
-    const CheckedSource checked = CheckScm(ParseScm(ReadWholeFile(entry.path() / "expected.scm")));
+    const CheckedSource checked = CheckScm(ParseScm(ReadWholeFile(entry.path())));
     for (const ScmError& error : checked.Errors)
       ADD_FAILURE() << entry.path() << " line " << error.Line << ": " << error.Reason;
-    EXPECT_TRUE(checked.Vtp.has_value()) << entry.path();
+    EXPECT_TRUE(checked.Vtp || checked.Lwm || checked.TexturedAreas > 0) << entry.path();
   }
   EXPECT_GT(seen, 5U);
 }
@@ -167,6 +167,10 @@ TEST(ScmChecker, TakesASourceWithoutTerrainForItsHeader) {
   EXPECT_FALSE(checked.Vtp.has_value());
   EXPECT_EQ(checked.Header, (BglHeader{1, 10, -9, -20, -22}));
   EXPECT_EQ(CheckScm(ParseScm("")).Errors.size(), 1U);
+  const auto mixed = CheckScm(ParseScm("Header( 1 10 9 2 1 )\nLWMFileHeader\nVTPFileHeader\nVTPEnd\n"));
+  ASSERT_GE(mixed.Errors.size(), 2U);
+  EXPECT_EQ(mixed.Errors[0],
+            (ScmError{3, "VTPFileHeader belongs to another kind of scenery than what stands above"}));
 }
 
 }  // namespace

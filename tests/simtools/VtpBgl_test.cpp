@@ -2,8 +2,7 @@
 
 #include "Sources.h"
 #include "core/Text.h"
-#include "simtools/BglWriter.h"
-#include "simtools/ScmChecker.h"
+#include "simtools/SourceBgl.h"
 #include "support/BglReaders.h"
 
 #include <gtest/gtest.h>
@@ -24,7 +23,7 @@ VtpFileRead CompileAndRead(const std::string& source) {
   for (const ScmError& error : checked.Errors)
     ADD_FAILURE() << "line " << error.Line << ": " << error.Reason;
   if (!checked.Vtp) throw std::runtime_error("no vector terrain");
-  return landsmith::test::ReadVtpFile(WriteBgl(checked.Header, VtpBlock(*checked.Vtp)));
+  return landsmith::test::ReadVtpFile(BglOf(checked));
 }
 
 TEST(VtpBgl, GivesBackCellsLayersTexturesAndPoints) {
@@ -82,6 +81,38 @@ TEST(VtpBgl, GivesBackCellsLayersTexturesAndPoints) {
     EXPECT_EQ(feature.TexText, expected[i].texture);
     EXPECT_EQ(feature.Points, expected[i].points);
   }
+}
+
+TEST(VtpBgl, GivesBackPolygonsAndTheLayersOfAreas) {
+  const VtpFileRead file = CompileAndRead(test::OneAreaAndExclusions);
+  ASSERT_EQ(file.Features.size(), 1U);
+  EXPECT_EQ(file.Features[0].Kind, 0);
+  EXPECT_EQ(file.Features[0].Group, 4);
+  EXPECT_EQ(file.Features[0].TexText, "100");
+  EXPECT_EQ(file.Features[0].Points,
+            (std::vector<VtpPointRead>{{4079, 4079, 0}, {8160, 5000, 0}, {0, 65535, 0}}));
+  ASSERT_EQ(file.Records.size(), 3U);
+  EXPECT_TRUE(file.Records[0].WholeCell);
+  const auto& area = file.Records[1];
+  EXPECT_EQ(std::tuple(area.CellCol, area.CellRow, area.WholeCell, area.AreaX, area.AreaY),
+            std::tuple(402, 121, false, 7, 31));
+  EXPECT_EQ(area.Groups, (std::vector<landsmith::test::VtpGroupRead>{{64, true, 0}, {100, true, 0}}));
+}
+
+TEST(VtpBgl, SpreadsManyLayersOverRecords) {
+  std::string source = "Header( 1 48 47 9 8 ) VTPFileHeader( 0x100 ) :cell00 VTPArea( 100 0 7 31 )\n";
+  for (int layer = 1; layer <= 100; ++layer)
+    source += "VTPLayer( " + std::to_string(layer) + " 1 0 0 )\n";
+  source += "VTPIndexList( 1 1 2 0 ) VTPTextureList( 1 100 2 0 0 4 ) VTPEnd\n";
+  const VtpFileRead file = CompileAndRead(source);
+  ASSERT_EQ(file.Records.size(), 4U);
+  int layer = 0;
+  for (const auto& record : file.Records) {
+    EXPECT_EQ(record.AreaX, 7);
+    for (const auto& group : record.Groups)
+      EXPECT_EQ(group, (landsmith::test::VtpGroupRead{++layer, true, 0}));
+  }
+  EXPECT_EQ(layer, 100);
 }
 
 /// A file with `polys` lines of `points` places in the last of `textures` textures.
