@@ -145,8 +145,8 @@ Triangulation TriangulateRing(std::span<const LatLon> ring) {
   points.reserve(ring.size());
   for (const LatLon& at : ring)
     points.push_back({at.lon, at.lat});
-  Triangulation told = EarClipper(points, AtCorner::Hinders).Run();
-  if (!told.HasFault) return told;
+  Triangulation plain = EarClipper(points, AtCorner::Hinders).Run();
+  if (!plain.HasFault) return plain;
   // Where vertices lie in line or share a place, as on an author's rectangles and bridges, rounding and the
   // vertices at the corners can hide the last ears of a sound ring.
   points = OnWholeNumbers(std::move(points));
@@ -154,7 +154,7 @@ Triangulation TriangulateRing(std::span<const LatLon> ring) {
   const auto at = [&points](std::int32_t v) { return points[static_cast<std::size_t>(v)]; };
   const Triangle& last = exact.Triangles.back();
   const bool isSound = !exact.HasFault && TurnAt(at(last.A), at(last.B), at(last.C)) >= 0;
-  return isSound ? exact : told;
+  return isSound ? exact : plain;
 }
 
 }  // namespace landsmith
