@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <numeric>
 
 namespace landsmith {
 namespace {
@@ -52,10 +53,37 @@ bool HasThreePlaces(const ConvexPart& part) {
   return std::any_of(second, part.end(), [&](CellPoint at) { return at != part.front() && at != *second; });
 }
 
+/// Once round, no turn the wrong way; straight runs allowed.
+bool IsConvex(const ConvexPart& part) {
+  const std::size_t size = part.size();
+  for (std::size_t k = 0; k < size; ++k) {
+    const CellPoint at = part[k];
+    const CellPoint next = part[(k + 1) % size];
+    if (TurnAt(at, next, part[(k + 2) % size]) > 0 || TurnAt(part[0], at, next) > 0) return false;
+  }
+  return true;
+}
+
+Wide TwiceArea(std::span<const CellPoint> ring) {
+  Wide sum = 0;
+  for (std::size_t k = 2; k < ring.size(); ++k)
+    sum -= TurnAt(ring[0], ring[k - 1], ring[k]);
+  return sum;
+}
+
+/// What is cut off and what is left always wind about a point as often together as the ring did, so convex
+/// parts with the area of a ring that does not cross itself cannot overlap.
+bool Tiles(std::span<const CellPoint> ring, const std::vector<ConvexPart>& parts) {
+  const auto addArea = [](Wide sum, const ConvexPart& part) { return sum + TwiceArea(part); };
+  return std::all_of(parts.begin(), parts.end(), IsConvex) &&
+         std::accumulate(parts.begin(), parts.end(), Wide{0}, addArea) == TwiceArea(ring);
+}
+
 class ConvexCutter {
 public:
-  explicit ConvexCutter(std::span<const CellPoint> ring)
+  ConvexCutter(std::span<const CellPoint> ring, AtCorner atCorner)
       : m_points(ring),
+        m_atCorner(atCorner),
         m_ring(static_cast<std::int32_t>(ring.size())),
         m_queue(m_ring.Size()),
         m_tree(ToPlane(ring)),
@@ -119,8 +147,13 @@ private:
   }
 
   std::optional<std::int32_t> FindInside(std::int32_t a, std::int32_t b, std::int32_t c) const {
-    return m_tree.FindIn({ToPlane(At(a)), ToPlane(At(b)), ToPlane(At(c))}, [&](std::int32_t m) {
-      return m != a && m != b && m != c && IsInTriangle(At(a), At(b), At(c), At(m));
+    const CellPoint atA = At(a), atB = At(b), atC = At(c);
+    if (TurnAt(atA, atB, atC) == 0) return std::nullopt;
+    return m_tree.FindIn({ToPlane(atA), ToPlane(atB), ToPlane(atC)}, [&](std::int32_t m) {
+      const CellPoint at = At(m);
+      if (m == a || m == b || m == c) return false;
+      if (m_atCorner == AtCorner::IsFree && (at == atA || at == atB || at == atC)) return false;
+      return IsInTriangle(atA, atB, atC, at);
     });
   }
 
@@ -161,6 +194,7 @@ private:
   using SizedTurn = std::pair<Wide, std::int32_t>;
 
   std::span<const CellPoint> m_points;
+  AtCorner m_atCorner;
   ShrinkingRing m_ring;
   CutQueue m_queue;
   VertexTree m_tree;
@@ -175,7 +209,10 @@ private:
 
 std::vector<ConvexPart> DecomposeConvex(std::span<const CellPoint> ring) {
   if (ring.size() < 3) return {};
-  return ConvexCutter(ring).Run();
+  std::vector<ConvexPart> parts = ConvexCutter(ring, AtCorner::Hinders).Run();
+  if (Tiles(ring, parts)) return parts;
+  std::vector<ConvexPart> others = ConvexCutter(ring, AtCorner::IsFree).Run();
+  return Tiles(ring, others) ? others : parts;
 }
 
 }  // namespace landsmith

@@ -23,9 +23,12 @@ using ConvexPart = std::vector<CellPoint>;
 ///
 /// The parts of a ring that neither crosses nor touches itself tile it exactly; where vertices lie in line, a
 /// part may have no area. Where nothing can be cut off, which is so in other rings alone, the vertex whose
-/// turn is smallest in size, the first of several, leaves the ring without a part, so it always ends. Parts
-/// with fewer than three different points are left out, and so is a ring of fewer than 3 vertices. The time
-/// grows about as n log n.
+/// turn is smallest in size, the first of several, leaves the ring without a part, so it always ends. If the
+/// parts then do not tile the ring, the search is made once more letting vertices that share their place with
+/// a corner be; its parts are taken when they do. This serves most rings with a bridge to an island.
+///
+/// Parts with fewer than three different points are left out, and so is a ring of fewer than 3 vertices. The
+/// time grows about as n log n.
 std::vector<ConvexPart> DecomposeConvex(std::span<const CellPoint> ring);
 
 }  // namespace landsmith

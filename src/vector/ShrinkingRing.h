@@ -50,6 +50,11 @@ private:
   std::int32_t m_first = 0;
 };
 
+/// Whether a vertex at the very place of a corner of a cut can hinder it. Where a ring touches itself, as it
+/// does along a bridge to an island, it may or may not; letting such vertices be finds the cut that the other
+/// misses.
+enum class AtCorner { Hinders, IsFree };
+
 /// The vertices that may be possible to cut off. All wait at first.
 class CutQueue {
 public:

@@ -38,10 +38,17 @@ bool IsInTriangle(const PlaneTriangle& triangle, PlanePoint p) {
   return (RayMeetsEdge(a, b, p) != RayMeetsEdge(b, c, p)) != RayMeetsEdge(c, a, p);
 }
 
+/// Sure, whatever rounding does; where many vertices share a place it saves asking about each of them.
+bool HoldsNothing(const PlaneTriangle& triangle) {
+  const auto& [a, b, c] = triangle;
+  return a == b || b == c || c == a || (a.X == b.X && b.X == c.X) || (a.Y == b.Y && b.Y == c.Y);
+}
+
 class EarClipper {
 public:
-  explicit EarClipper(std::vector<PlanePoint> points)
+  EarClipper(std::vector<PlanePoint> points, AtCorner atCorner)
       : m_points(std::move(points)),
+        m_atCorner(atCorner),
         m_ring(static_cast<std::int32_t>(m_points.size())),
         m_queue(m_ring.Size()),
         m_tree(m_points) {
@@ -85,12 +92,17 @@ private:
 
   std::optional<std::int32_t> FindInside(std::int32_t before, std::int32_t v, std::int32_t after) const {
     const PlaneTriangle triangle{At(before), At(v), At(after)};
+    if (HoldsNothing(triangle)) return std::nullopt;
+    const auto isInside = [&](std::int32_t m) {
+      if (m == before || m == v || m == after) return false;
+      const bool isFree = m_atCorner == AtCorner::IsFree &&
+                          std::find(triangle.begin(), triangle.end(), At(m)) != triangle.end();
+      return !isFree && IsInTriangle(triangle, At(m));
+    };
     // Mostly it is the next one along the ring that is in the way.
     for (const std::int32_t next : {m_ring.After(after), m_ring.Before(before)})
-      if (IsInTriangle(triangle, At(next))) return next;
-    return m_tree.FindIn(triangle, [&](std::int32_t m) {
-      return m != before && m != v && m != after && IsInTriangle(triangle, At(m));
-    });
+      if (isInside(next)) return next;
+    return m_tree.FindIn(triangle, isInside);
   }
 
   Triangle Clip(std::int32_t v) {
@@ -104,6 +116,7 @@ private:
   }
 
   std::vector<PlanePoint> m_points;
+  AtCorner m_atCorner;
   ShrinkingRing m_ring;
   CutQueue m_queue;
   VertexTree m_tree;
@@ -132,12 +145,16 @@ Triangulation TriangulateRing(std::span<const LatLon> ring) {
   points.reserve(ring.size());
   for (const LatLon& at : ring)
     points.push_back({at.lon, at.lat});
-  Triangulation told = EarClipper(points).Run();
-  if (!told.HasFault) return told;
-  // Where vertices lie in line, as on an author's rectangles, rounding alone can hide the last ears of a
-  // sound ring.
-  Triangulation exact = EarClipper(OnWholeNumbers(std::move(points))).Run();
-  return exact.HasFault ? told : exact;
+  Triangulation plain = EarClipper(points, AtCorner::Hinders).Run();
+  if (!plain.HasFault) return plain;
+  // Where vertices lie in line or share a place, as on an author's rectangles and bridges, rounding and the
+  // vertices at the corners can hide the last ears of a sound ring.
+  points = OnWholeNumbers(std::move(points));
+  Triangulation exact = EarClipper(points, AtCorner::IsFree).Run();
+  const auto at = [&points](std::int32_t v) { return points[static_cast<std::size_t>(v)]; };
+  const Triangle& last = exact.Triangles.back();
+  const bool isSound = !exact.HasFault && TurnAt(at(last.A), at(last.B), at(last.C)) >= 0;
+  return isSound ? exact : plain;
 }
 
 }  // namespace landsmith

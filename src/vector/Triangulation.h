@@ -27,8 +27,9 @@ struct Triangulation {
 ///
 /// A round without an ear clips at the place where the round before did, the very first one at the second
 /// vertex, and none behind the last vertex: the triangles are then complete in number and may overlap. Before
-/// that is settled the ring is tried once more with coordinates rounded so that the arithmetic is exact (to
-/// 2^-24 of its extent); if no round fails then, those triangles count and there is no fault.
+/// that is settled the ring is tried once more, with coordinates rounded so that the arithmetic is exact (to
+/// 2^-24 of its extent) and letting vertices that share their place with a corner be; if no round fails then,
+/// those triangles count and there is no fault.
 ///
 /// A ring of fewer than 3 vertices has no triangles. The time grows about as n log n.
 Triangulation TriangulateRing(std::span<const LatLon> ring);

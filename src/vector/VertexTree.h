@@ -13,6 +13,7 @@ namespace landsmith {
 
 struct PlanePoint {
   double X = 0, Y = 0;
+  bool operator==(const PlanePoint&) const = default;
 };
 
 using PlaneTriangle = std::array<PlanePoint, 3>;
