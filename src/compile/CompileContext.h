@@ -8,6 +8,7 @@
 #include "platform/Progress.h"
 #include "platform/Tools.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -40,6 +41,12 @@ struct CompileContext {
   Progress& progress;
   CompileOptions options;
   CompileReport& report;
+  /// The steps of this run by name, for one that does its work together with another. RunSteps sets it.
+  std::vector<std::string_view> Steps = {};
+
+  bool Runs(std::string_view step) const {
+    return std::find(Steps.begin(), Steps.end(), step) != Steps.end();
+  }
 };
 
 }  // namespace landsmith

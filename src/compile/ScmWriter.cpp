@@ -32,6 +32,10 @@ ScmWriter& ScmWriter::Shortest(double value) {
   return Text(NumberText(value));
 }
 
+ScmWriter& ScmWriter::Shortest(float value) {
+  return Text(NumberText(value));
+}
+
 ScmWriter& ScmWriter::EndLine() {
   return Text("\r\n");
 }

@@ -20,7 +20,8 @@ public:
   ScmWriter& TwoDigits(std::int64_t value);
   ScmWriter& Fixed(double value, int decimals);
   ScmWriter& Shortest(double value);
-  ScmWriter& EndLine();  ///< CR LF
+  ScmWriter& Shortest(float value);  ///< as many digits as a single has
+  ScmWriter& EndLine();              ///< CR LF
   ScmWriter& Line(std::string_view text) { return Text(text).EndLine(); }
   ScmWriter& EmptyLine() { return EndLine(); }
 

@@ -1,5 +1,6 @@
 // The forms that the editor asks the main window for, and those that stand beside the canvas.
 #include "forms/frmBGL.h"
+#include "forms/frmFillsP.h"
 #include "forms/frmFind.h"
 #include "forms/frmLinesP.h"
 #include "forms/frmMapsP.h"
@@ -67,6 +68,27 @@ void frmStart::ShowPolyProperties(std::optional<std::size_t> poly) {
   frmPolysP form(m_session, m_editor->Canvas(), this);
   RunProperties(form, poly, *m_editor);
   RefreshUi();
+}
+
+void frmStart::ShowFillProperties(std::size_t fill) {
+  if (fill >= m_session.project.Fills.size()) return;
+  frmFillsP form(m_session, m_editor->Canvas(), this);
+  form.ShowFill(fill);
+  form.exec();
+  RefreshUi();
+}
+
+void frmStart::ShowModeForm(std::optional<ModeId> mode) {
+  if (mode != ModeId::Fill) {
+    if (m_modeForm) m_modeForm->close();
+    return;
+  }
+  const bool isOpen = m_modeForm && m_modeForm->isVisible();
+  if (!isOpen) m_modeForm = new frmFillsP(m_session, m_editor->Canvas(), this);
+  m_modeForm->ShowPalette();
+  if (isOpen) return;
+  m_modeForm->setAttribute(Qt::WA_ShowWithoutActivating);  // the canvas keeps the keyboard
+  ShowBeside(*m_modeForm, *m_ui->canvas);
 }
 
 void frmStart::ShowCompilation() {
