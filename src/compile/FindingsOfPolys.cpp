@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <variant>
 
@@ -69,6 +70,16 @@ void CheckShape(const WholeRing& ring, LatLon at, const char* collapsed, ItemFin
 
 std::string Metres(float altitude) {
   return NumberText(altitude) + " m";
+}
+
+/// What a LayerCall statement takes.
+constexpr std::int32_t LastTexPriority = 255;
+
+/// A field that goes into the text as it stands: the tool wants digits.
+bool IsTakenAsWritten(std::string_view field, std::int32_t largest) {
+  const std::string_view digits = Trim(field);
+  const auto number = ParseInt32(digits);
+  return number && *number <= largest && digits.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
 constexpr const char* NoAltitude = "A vertex has an altitude that is no number.";
@@ -185,10 +196,11 @@ private:
     if (!ParseInt32(type.TileX) || !ParseInt32(type.TileY))
       m_found.Error(m_at, "The bitmap is repeated \"" + type.TileX + "\" by \"" + type.TileY +
                               "\" times, which are no whole numbers.");
-    if (!ParseInt32(type.Priority))
-      m_found.Error(m_at, "The priority \"" + type.Priority + "\" is no whole number.");
-    if (!ParseNumber(type.V1))
-      m_found.Error(m_at, "The visibility \"" + type.V1 + "\" is no number of metres.");
+    if (!IsTakenAsWritten(type.Priority, LastTexPriority))
+      m_found.Error(m_at, "The priority \"" + type.Priority + "\" is no whole number from 0 to " +
+                              std::to_string(LastTexPriority) + ".");
+    if (!IsTakenAsWritten(type.V1, std::numeric_limits<std::int32_t>::max()))
+      m_found.Error(m_at, "The visibility \"" + type.V1 + "\" is no whole number of metres.");
     if (!ParseInt32(type.Night))
       m_found.Error(m_at, "The mark for a night bitmap is \"" + type.Night + "\", no number.");
     if (const auto pair = UnreadablePair(type.Pairs, m_poly.Points.size()))

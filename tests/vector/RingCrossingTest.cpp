@@ -147,10 +147,11 @@ TEST(RingCrossing, FindsTheOneKnotOfALongRing) {
 }
 
 TEST(RingCrossing, IsExactAtTheLargestCoordinates) {
-  // The third vertex lies one unit beside an edge of length 2^30, then on it, then one on the far side.
+  // The tip lies beside an edge of length 2^30, in the narrowest of all triangles on its far side, or just on
+  // this one: what tells them apart is 1 beside products of 2^60.
   constexpr std::int32_t far = LargestRingCoordinate;
-  for (const auto& [y, crosses] : {std::pair(far - 1, true), std::pair(far, false)}) {
-    const Ring ring{{-far, -far}, {far, far}, {far, -far}, {far, y}, {-far, far - 2}};
+  for (const auto& [y, crosses] : {std::pair(far - 2, true), std::pair(far - 1, false)}) {
+    const Ring ring{{-far, -far}, {far, far - 1}, {far, far}, {far - 1, y}, {-far, far}};
     EXPECT_EQ(FindRingCrossing(ring).has_value(), crosses) << y;
   }
 }

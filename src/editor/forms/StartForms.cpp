@@ -10,6 +10,10 @@
 #include "forms/frmStart.h"
 #include "ui_frmStart.h"
 
+#include <QScreen>
+
+#include <algorithm>
+
 namespace landsmith {
 
 namespace {
@@ -17,14 +21,20 @@ namespace {
 constexpr int Margin = 12;
 
 /// To the right end of the canvas: in its middle stands what a walk or a search has come to.
-void MoveAside(QDialog& form, const QWidget& canvas) {
+void PutAside(QDialog& form, const QWidget& canvas) {
+  form.adjustSize();
   const QPoint corner = canvas.mapToGlobal(QPoint(canvas.width(), 0));
   form.move(corner.x() - form.width() - Margin, corner.y() + Margin);
 }
 
-void PutAside(QDialog& form, const QWidget& canvas) {
-  form.adjustSize();
-  MoveAside(form, canvas);
+/// A form that hides the middle of the canvas goes to the right of it, as far as the screen allows.
+void UncoverMiddle(QDialog& form, const QWidget& canvas) {
+  const QPoint middle = canvas.mapToGlobal(canvas.rect().center());
+  const QRect frame = form.frameGeometry();
+  if (!frame.contains(middle)) return;
+  const int farthest = form.screen()->availableGeometry().right() - frame.width();
+  const int right = canvas.mapToGlobal(QPoint(canvas.width(), 0)).x() - frame.width() - Margin;
+  form.move(std::min(std::max(right, middle.x() + Margin), farthest), frame.top());
 }
 
 /// Shows a form that deletes itself when it is closed.
@@ -90,8 +100,7 @@ void frmStart::ShowCompilation() {
 /// The selection stays as it is: it says what will be compiled.
 void frmStart::GoToFinding(LatLon at, QDialog& form) {
   m_editor->GoTo(at);
-  const QPoint middle = m_ui->canvas->mapToGlobal(m_ui->canvas->rect().center());
-  if (form.frameGeometry().contains(middle)) MoveAside(form, *m_ui->canvas);
+  UncoverMiddle(form, *m_ui->canvas);
 }
 
 /// Search text and last hit stay from one time to the next.
