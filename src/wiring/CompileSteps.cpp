@@ -1,6 +1,7 @@
 #include "wiring/CompileSteps.h"
 
 #include "compile/LwmPolys.h"
+#include "compile/TexPolys.h"
 #include "compile/VtpLines.h"
 #include "raster/ClassCells.h"
 #include "raster/CompileFills.h"
@@ -83,7 +84,7 @@ const StepTable& CompileSteps() {
       {"xbitmaps", "ckXBitmaps", "frPhoto", "High Resolution Bitmaps", nullptr, false, true, nullptr},
       {FillsStep, "ckFills", "frLWM", "Area Fills", HasFills, true, false, RunFills},
       {LwmStep, "ckLWMPolys", "frLWM", "LWM Polygons", HasLwmPolys, true, false, RunLwmPolys},
-      {"tex", "ckPolyTex", "frOther", "Textured Polygons", HasTexturedPolys, true, false, nullptr},
+      {"tex", "ckPolyTex", "frOther", "Textured Polygons", HasTexturedPolys, true, false, CompileTexPolys},
       {"vtp-polys", "ckVTPPolys", "frVTP", "VTP Polygons", HasVtpPolys, true, false, nullptr},
       {"exc-polys", "ckEXCPolys", "frOther", "Exclusion Polygons", HasExcludePolys, true, false, nullptr},
       {"vtp-lines", "ckVTPLines", "frVTP", "VTP Lines", HasSelectedVtpLine, true, false, CompileVTPLines},
