@@ -28,16 +28,19 @@ bool AtOnePlace(const CutVertex& a, const CutVertex& b) {
   return a.Lat == b.Lat && a.Lon == b.Lon;
 }
 
+/// By the latitude between the two; by the longitude where they lie on one parallel, which two that went to
+/// different sides of a line do all the same.
 float AltitudeBetween(const CutVertex& from, const CutVertex& to, double lat, double lon) {
   if (from.Alt == to.Alt) return from.Alt;
+  const bool onOneParallel = std::fabs(to.Lat - from.Lat) < 4 * NudgeLat && from.Lon != to.Lon;
   const double share =
-      from.Lat != to.Lat ? (lat - from.Lat) / (to.Lat - from.Lat) : (lon - from.Lon) / (to.Lon - from.Lon);
-  const double low = static_cast<double>(from.Alt);
-  return static_cast<float>(low + share * (static_cast<double>(to.Alt) - low));
+      onOneParallel ? (lon - from.Lon) / (to.Lon - from.Lon) : (lat - from.Lat) / (to.Lat - from.Lat);
+  const double start = static_cast<double>(from.Alt);
+  return static_cast<float>(start + share * (static_cast<double>(to.Alt) - start));
 }
 
-bool IsOnLine(double value, double spacing) {
-  return std::floor(value / spacing) * spacing == value;
+double DistanceToLine(double value, double spacing) {
+  return std::fabs(value - std::round(value / spacing) * spacing);
 }
 
 /// One axis: across which lines edges are cut, and along them.
@@ -82,7 +85,13 @@ private:
     CutVertex cut;
     cut.*m_axis.Across = line + nudge;
     cut.*m_axis.Along = from.*m_axis.Along + (to.*m_axis.Along - from.*m_axis.Along) * share;
-    if (IsOnLine(cut.*m_axis.Along, m_axis.CrossSpacing)) cut.*m_axis.Along += m_axis.OffCorner;
+    const double fromCorner = DistanceToLine(cut.*m_axis.Along, m_axis.CrossSpacing);
+    constexpr double indistinct = 1e-11;  // sums with 180 degrees cannot tell it from the line
+    const bool onCorner = fromCorner < indistinct;
+    if (onCorner) cut.*m_axis.Along += m_axis.OffCorner;
+    // The cut over the other line at the same corner goes with it.
+    const bool besideOne = from.AtCorner || to.AtCorner;
+    cut.AtCorner = onCorner || (besideOne && fromCorner < 2 * std::fabs(m_axis.OffCorner));
     cut.Crossing = DrawnCrossing(line);
     cut.Alt = AltitudeBetween(from, to, cut.Lat, cut.Lon);
     return cut;

@@ -32,6 +32,7 @@ struct CutVertex {
   double Crossing = 0;  ///< of a cut: where the edge as it was drawn crosses, along the line, in degrees
   float Alt = 0;
   CutMark Mark = CutMark::Vertex;
+  bool AtCorner = false;  ///< a cut where an edge passes through the corner of four squares
 };
 
 /// The lines of the grid lie at whole multiples of these, in degrees.

@@ -1,7 +1,7 @@
 #include "compile/LwmText.h"
 
+#include "compile/ScmFrame.h"
 #include "compile/ScmWriter.h"
-#include "core/Numbers.h"
 
 #include <cmath>
 #include <cstddef>
@@ -10,11 +10,9 @@
 namespace landsmith {
 namespace {
 
-void WriteHeader(ScmWriter& out, const LwmTextOptions& options) {
+void WriteHead(ScmWriter& out, const LwmTextOptions& options) {
   if (options.Kind != LwmFileKind::Fills) out.Line("Set( BUF 8192 )").EmptyLine();
-  const GeoBox& bounds = options.Bounds;
-  out.Text("Header( 1 ").Integer(Floor(bounds.NLat + 1)).Text(" ").Integer(Floor(bounds.SLat));
-  out.Text(" ").Integer(Floor(bounds.ELon + 1)).Text(" ").Integer(Floor(bounds.WLon)).Line(" )");
+  WriteHeader(out, options.Bounds);
   out.EmptyLine();
   out.Line(options.Kind == LwmFileKind::Sloped ? "LWMFileHeader( 0x300 )" : "LWMFileHeader");
 }
@@ -79,7 +77,8 @@ private:
 
 void WriteCell(ScmWriter& out, PieceWriter& pieces, const LwmCell& cell, std::int64_t number,
                bool fillAsPoly) {
-  out.EmptyLine().Text(":cell").TwoDigits(number).EndLine().EmptyLine();
+  WriteCellLabel(out, number);
+  out.EmptyLine();
   WriteFills(out, cell.Fills, fillAsPoly);
   for (const LwmPolyRec& piece : cell.Polys)
     pieces.Write(piece);
@@ -113,7 +112,7 @@ std::size_t ExpectedSize(const std::vector<LwmCell>& cells) {
 std::string LwmText(const std::vector<LwmCell>& cells, const LwmTextOptions& options) {
   ScmWriter out;
   out.Reserve(ExpectedSize(cells));
-  WriteHeader(out, options);
+  WriteHead(out, options);
   PieceWriter pieces(out, options.Kind);
   std::int64_t number = 0;
   for (const LwmCell& cell : cells)

@@ -11,9 +11,10 @@ namespace landsmith {
 namespace {
 
 constexpr std::int32_t AreasPerCell = 32;
-/// More crossings than this in one square are no drawn shape; the plain walk, whose time grows with their
-/// square, is not tried.
-constexpr std::size_t MostWalkedCrossings = 2000;
+constexpr std::int32_t WorldCols = 768, WorldRows = 512;  // in Cells
+/// With more passages through one square than this the plain walk, whose time can grow with their cube, is
+/// not tried; the exact one sorts them.
+constexpr std::size_t MostWalkedPassages = 200;
 
 /// How the squares of one grid are written.
 struct GridRules {
@@ -43,6 +44,7 @@ public:
 
 private:
   void AddSquare(const VisitedSquare& square) {
+    if (!IsInWorld(square.Square)) return;
     if (square.RunCount == 0) {
       AddPiece(square.Square, WholeSquare());
       return;
@@ -60,6 +62,13 @@ private:
     }
     for (const ClosedRing& ring : rings)
       AddPiece(square.Square, ring);
+  }
+
+  /// Vertices at 180 degrees east and at the south pole lie in squares that no file can name. The ring has no
+  /// area there.
+  bool IsInWorld(SquareIndex square) const {
+    const std::int32_t perCell = m_rules.Grid == SquareGrid::Areas ? AreasPerCell : 1;
+    return square.Col < WorldCols * perCell && square.Row < WorldRows * perCell;
   }
 
   void ListPoints(const VisitedSquare& square) {
@@ -81,13 +90,15 @@ private:
 
   /// True when the pieces are what the ring encloses in the square.
   bool TryPlainWalk(const VisitedSquare& square, std::vector<ClosedRing>& rings) const {
-    if (square.RunCount > MostWalkedCrossings) return false;
+    const auto isAtCorner = [](const SquarePoint& point) { return point.AtCorner; };
+    if (square.RunCount > MostWalkedPassages || std::any_of(m_list.begin(), m_list.end(), isAtCorner))
+      return false;
     if (m_list.size() >= 2) rings = WalkPoints(m_list, m_rules.Side, m_rules.DropSpikes);
     if (rings.empty() && square.EnclosedArea2 > RoundArea2() / 2) rings.push_back(WholeSquare());
     std::int64_t area2 = 0;
     for (const ClosedRing& ring : rings) {
       const std::int64_t own = RingArea2(ring);
-      if (own <= 0) return false;
+      if (own < 0) return false;
       area2 += own;
     }
     return area2 == square.EnclosedArea2;

@@ -25,7 +25,8 @@ struct SquarePoint {
   std::int32_t X = 0, Y = 0;
   float Alt = 0;
   CutMark Mark = CutMark::Vertex;
-  double Border = 0;  ///< of a cut: where it lies on the border, unrounded, clockwise from the corner
+  bool AtCorner = false;  ///< as in CutVertex
+  double Border = 0;      ///< of a cut: where it lies on the border, unrounded, clockwise from the corner
 };
 
 struct SquareIndex {

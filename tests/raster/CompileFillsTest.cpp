@@ -1,4 +1,3 @@
-#include "compile/CompileRig.h"
 #include "raster/CompileFills.h"
 #include "support/Errors.h"
 
@@ -22,15 +21,6 @@ TEST(CompileFills, NamesAFillThatNoStatementHas) {
     fill.Type = row.type;
     EXPECT_THAT(ErrorOf([&] { FillSource(project, {}); }), testing::HasSubstr(row.found));
   }
-}
-
-TEST(CompileFills, SaysWhenNoneIsSelected) {
-  CompileRig rig;
-  rig.project.Fills.emplace_back();
-  CompileFills(rig.Context());
-  ASSERT_EQ(rig.dialogs.messages.size(), 1U);
-  EXPECT_EQ(rig.dialogs.messages[0].kind, MessageKind::Info);
-  EXPECT_TRUE(rig.report.Written.empty());
 }
 
 }  // namespace
