@@ -24,8 +24,8 @@ ScmWriter& ScmWriter::TwoDigits(std::int64_t value) {
   return Integer(value);
 }
 
-ScmWriter& ScmWriter::Fixed(double value, int decimals) {
-  return Text(FixedText(value, decimals));
+ScmWriter& ScmWriter::Fixed(double value, int decimals, int minIntegerDigits) {
+  return Text(FixedText(value, decimals, minIntegerDigits));
 }
 
 ScmWriter& ScmWriter::Shortest(double value) {

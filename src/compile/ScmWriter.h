@@ -18,7 +18,8 @@ public:
   ScmWriter& Integer(std::int64_t value);  ///< plain decimal, no padding
   /// 0 or above, with at least two digits: "07", "12", "123".
   ScmWriter& TwoDigits(std::int64_t value);
-  ScmWriter& Fixed(double value, int decimals);
+  /// The mask "0.000", or "000.00" with as many digits in front of the point at least.
+  ScmWriter& Fixed(double value, int decimals, int minIntegerDigits = 1);
   ScmWriter& Shortest(double value);
   ScmWriter& Shortest(float value);  ///< as many digits as a single has
   ScmWriter& EndLine();              ///< CR LF

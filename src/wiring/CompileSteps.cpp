@@ -2,6 +2,7 @@
 
 #include "compile/ExcludePolys.h"
 #include "compile/LwmPolys.h"
+#include "compile/TexPolys.h"
 #include "compile/VtpLines.h"
 #include "compile/VtpPolys.h"
 #include "raster/ClassCells.h"
@@ -85,7 +86,7 @@ const StepTable& CompileSteps() {
       {"xbitmaps", "ckXBitmaps", "frPhoto", "High Resolution Bitmaps", nullptr, false, true, nullptr},
       {FillsStep, "ckFills", "frLWM", "Area Fills", HasFills, true, false, RunFills},
       {LwmStep, "ckLWMPolys", "frLWM", "LWM Polygons", HasLwmPolys, true, false, RunLwmPolys},
-      {"tex", "ckPolyTex", "frOther", "Textured Polygons", HasTexturedPolys, true, false, nullptr},
+      {"tex", "ckPolyTex", "frOther", "Textured Polygons", HasTexturedPolys, true, false, CompileTexPolys},
       {"vtp-polys", "ckVTPPolys", "frVTP", "VTP Polygons", HasVtpPolys, true, false, CompileVTPPolys},
       {"exc-polys", "ckEXCPolys", "frOther", "Exclusion Polygons", HasExcludePolys, true, false,
        CompileExcludePolys},

@@ -76,7 +76,9 @@ void TiePicture::PaintGround(QPainter& painter) const {
     return;
   }
   painter.fillRect(raster, palette().color(QPalette::Base));
-  painter.setPen(palette().color(QPalette::Mid));
+  QColor grid = palette().color(QPalette::Text);
+  grid.setAlpha(60);
+  painter.setPen(grid);
   for (int line = 1; line < RasterLines; ++line) {
     const double offset = raster.width() * line / RasterLines;
     painter.drawLine(QPointF(raster.left() + offset, raster.top()),
