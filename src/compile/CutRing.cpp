@@ -28,12 +28,15 @@ bool AtOnePlace(const CutVertex& a, const CutVertex& b) {
   return a.Lat == b.Lat && a.Lon == b.Lon;
 }
 
+/// By the latitude between the two; by the longitude where they lie on one parallel, which two that went to
+/// different sides of a line do all the same.
 float AltitudeBetween(const CutVertex& from, const CutVertex& to, double lat, double lon) {
   if (from.Alt == to.Alt) return from.Alt;
+  const bool onOneParallel = std::fabs(to.Lat - from.Lat) < 4 * NudgeLat && from.Lon != to.Lon;
   const double share =
-      from.Lat != to.Lat ? (lat - from.Lat) / (to.Lat - from.Lat) : (lon - from.Lon) / (to.Lon - from.Lon);
-  const double low = static_cast<double>(from.Alt);
-  return static_cast<float>(low + share * (static_cast<double>(to.Alt) - low));
+      onOneParallel ? (lon - from.Lon) / (to.Lon - from.Lon) : (lat - from.Lat) / (to.Lat - from.Lat);
+  const double start = static_cast<double>(from.Alt);
+  return static_cast<float>(start + share * (static_cast<double>(to.Alt) - start));
 }
 
 double DistanceToLine(double value, double spacing) {

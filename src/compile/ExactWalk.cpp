@@ -1,4 +1,5 @@
 #include "compile/BorderWalk.h"
+#include "compile/RingSpikes.h"
 
 #include <algorithm>
 #include <cmath>
@@ -116,38 +117,6 @@ private:
   std::vector<std::size_t> m_exits, m_entries;
 };
 
-bool SamePoint(const WalkedPoint& a, const WalkedPoint& b) {
-  return a.X == b.X && a.Y == b.Y;
-}
-
-/// The ring goes straight back at `b`, or stands still there.
-bool IsSpike(const WalkedPoint& a, const WalkedPoint& b, const WalkedPoint& c) {
-  const std::int64_t inX = b.X - a.X, inY = b.Y - a.Y, outX = c.X - b.X, outY = c.Y - b.Y;
-  return inX * outY == inY * outX && inX * outX + inY * outY <= 0;
-}
-
-ClosedRing WithoutSpikes(const ClosedRing& ring) {
-  ClosedRing kept;
-  for (const WalkedPoint& point : ring) {
-    if (!kept.empty() && SamePoint(kept.back(), point)) continue;
-    while (kept.size() >= 2 && IsSpike(kept[kept.size() - 2], kept.back(), point))
-      kept.pop_back();
-    if (kept.empty() || !SamePoint(kept.back(), point)) kept.push_back(point);
-  }
-  std::size_t first = 0;
-  while (kept.size() - first >= 3) {  // where the end meets the beginning
-    const WalkedPoint& last = kept.back();
-    if (SamePoint(last, kept[first]) || IsSpike(kept[kept.size() - 2], last, kept[first]))
-      kept.pop_back();
-    else if (IsSpike(last, kept[first], kept[first + 1]))
-      ++first;
-    else
-      break;
-  }
-  kept.erase(kept.begin(), kept.begin() + static_cast<std::ptrdiff_t>(first));
-  return kept;
-}
-
 }  // namespace
 
 std::vector<ClosedRing> WalkExactly(const std::vector<SquarePoint>& list, std::int32_t side,
@@ -164,7 +133,7 @@ std::vector<ClosedRing> WalkExactly(const std::vector<SquarePoint>& list, std::i
         ring.push_back(PlainPoint(list[k]));
       AddCorners(arcs[p], side, ring);
     }
-    ring = WithoutSpikes(ring);
+    ring = WithoutSpikes<WalkedPoint>(ring);
     if (RingArea2(ring) > 0) rings.push_back(std::move(ring));
   }
   return rings;

@@ -1,10 +1,10 @@
 #include "compile/LwmPolys.h"
 
 #include "compile/CompileStep.h"
+#include "compile/ItemFailure.h"
 #include "compile/LwmText.h"
 #include "compile/PolyClip.h"
 #include "core/Numbers.h"
-#include "platform/RuntimeError.h"
 #include "vector/AltitudePlane.h"
 #include "vector/LineType.h"
 #include "vector/PolyType.h"
@@ -17,6 +17,8 @@
 
 namespace landsmith {
 namespace {
+
+constexpr ItemWords PolyWords{"compiling the LWM polygons", "polygon"};
 
 struct LwmPoly {
   std::size_t index = 0;  ///< in the project
@@ -77,12 +79,6 @@ LwmPoly Decoded(const PolyRec& poly) {
   return result;
 }
 
-/// A failure that names the polygon it is about.
-RuntimeError FailureIn(const ProjectState& project, std::size_t index, const std::string& found) {
-  const std::string place = "polygon " + std::to_string(index + 1) + " \"" + project.Polys[index].Name + "\"";
-  return RuntimeError::At("compiling the LWM polygons", "", place, found);
-}
-
 std::vector<LwmPoly> CollectLwmPolys(const ProjectState& project) {
   std::vector<LwmPoly> collected;
   for (std::size_t i = 0; i < project.Polys.size(); ++i) {
@@ -90,7 +86,7 @@ std::vector<LwmPoly> CollectLwmPolys(const ProjectState& project) {
     try {
       collected.push_back(Decoded(project.Polys[i]));
     } catch (const RuntimeError& failure) {
-      throw FailureIn(project, i, failure.what());
+      throw ItemFailure(PolyWords, i, project.Polys[i].Name, failure.what());
     }
     collected.back().index = i;
   }
@@ -113,14 +109,15 @@ void LwmFileContent::AddPolys(const ProjectState& project, const std::vector<Lwm
                               LwmFileKind kind) {
   for (const LwmPoly& poly : collected) {
     if (IsSloped(poly) != (kind == LwmFileKind::Sloped)) continue;
+    const PolyRec& record = project.Polys[poly.index];
     try {
       LwmCutPoly cut{poly.kind, poly.highest, poly.lowest,
-                     ClipPolyToAreas(project.Polys[poly.index].Points, poly.slope ? &*poly.slope : nullptr)};
+                     ClipPolyToAreas(record.Points, poly.slope ? &*poly.slope : nullptr)};
       if (cut.Cut.IsDropped) continue;
       bounds.Add(cut.Cut.Box);
       polys.push_back(std::move(cut));
     } catch (const RuntimeError& failure) {
-      throw FailureIn(project, poly.index, failure.what());
+      throw ItemFailure(PolyWords, poly.index, record.Name, failure.what());
     }
   }
 }

@@ -1,7 +1,7 @@
 #include "compile/LwmText.h"
 
+#include "compile/ScmFrame.h"
 #include "compile/ScmWriter.h"
-#include "core/Numbers.h"
 
 #include <cmath>
 #include <cstddef>
@@ -10,11 +10,9 @@
 namespace landsmith {
 namespace {
 
-void WriteHeader(ScmWriter& out, const LwmTextOptions& options) {
+void WriteHead(ScmWriter& out, const LwmTextOptions& options) {
   if (options.Kind != LwmFileKind::Fills) out.Line("Set( BUF 8192 )").EmptyLine();
-  const GeoBox& bounds = options.Bounds;
-  out.Text("Header( 1 ").Integer(Floor(bounds.NLat + 1)).Text(" ").Integer(Floor(bounds.SLat));
-  out.Text(" ").Integer(Floor(bounds.ELon + 1)).Text(" ").Integer(Floor(bounds.WLon)).Line(" )");
+  WriteHeader(out, options.Bounds);
   out.EmptyLine();
   out.Line(options.Kind == LwmFileKind::Sloped ? "LWMFileHeader( 0x300 )" : "LWMFileHeader");
 }
@@ -37,33 +35,53 @@ private:
   float m_lowest, m_range;
 };
 
-void WritePieceHead(ScmWriter& out, const LwmPolyRec& piece, LwmFileKind file) {
-  const LwmCutPoly& poly = *piece.Poly;
-  out.Text(poly.Kind == LwmPieceKind::Flatten ? "LWMAreaDrawPoly( 1 2 " : "LWMAreaDrawPoly( 1 3 ");
-  out.Integer(piece.AreaX).Text(" ").Integer(piece.AreaY).Line(" )").EmptyLine();
-  const bool isSloped = file == LwmFileKind::Sloped;
-  out.Text(isSloped ? "LWMPoly3( " : "LWMPoly( ").Integer(std::ssize(piece.Points));
-  out.Text(" ").Integer(static_cast<int>(poly.Kind)).Text(" ");
-  if (isSloped) out.Shortest(static_cast<float>(poly.Alt2)).Text(" ");
-  out.Shortest(static_cast<float>(poly.Alt1)).Line(" ");
-}
+/// Pieces of a polygon mostly come many in a row, so what they have in common is made once for the row.
+class PieceWriter {
+public:
+  PieceWriter(ScmWriter& out, LwmFileKind file) : m_out(out), m_isSloped(file == LwmFileKind::Sloped) {}
 
-void WritePiece(ScmWriter& out, const LwmPolyRec& piece, LwmFileKind file) {
-  WritePieceHead(out, piece, file);
-  const AltitudeScale scale(piece.Poly->Alt2, piece.Poly->Alt1);
-  for (const PiecePoint& point : piece.Points) {
-    out.Text("   ").Integer(point.X).Text(" ").Integer(point.Y);
-    if (file == LwmFileKind::Sloped) out.Text(" ").Integer(scale.ByteOf(point.Alt));
-    out.EndLine();
+  void Write(const LwmPolyRec& piece) {
+    if (piece.Poly != m_poly) StartPoly(*piece.Poly);
+    m_out.Text(m_areaStart).Integer(piece.AreaX).Text(" ").Integer(piece.AreaY).Line(" )").EmptyLine();
+    m_out.Text(m_isSloped ? "LWMPoly3( " : "LWMPoly( ").Integer(std::ssize(piece.Points)).Line(m_polyEnd);
+    for (const PiecePoint& point : piece.Points)
+      WritePoint(point);
+    m_out.Line("     )");
   }
-  out.Line("     )");
-}
 
-void WriteCell(ScmWriter& out, const LwmCell& cell, std::int64_t number, const LwmTextOptions& options) {
-  out.EmptyLine().Text(":cell").TwoDigits(number).EndLine().EmptyLine();
-  WriteFills(out, cell.Fills, options.FillAsPoly);
+private:
+  void StartPoly(const LwmCutPoly& poly) {
+    m_poly = &poly;
+    m_scale = AltitudeScale(poly.Alt2, poly.Alt1);
+    m_areaStart = poly.Kind == LwmPieceKind::Flatten ? "LWMAreaDrawPoly( 1 2 " : "LWMAreaDrawPoly( 1 3 ";
+    ScmWriter end;
+    end.Text(" ").Integer(static_cast<int>(poly.Kind)).Text(" ");
+    if (m_isSloped) end.Shortest(static_cast<float>(poly.Alt2)).Text(" ");
+    end.Shortest(static_cast<float>(poly.Alt1)).Text(" ");
+    m_polyEnd = end.Take();
+  }
+
+  void WritePoint(const PiecePoint& point) {
+    m_out.Text("   ").Integer(point.X).Text(" ").Integer(point.Y);
+    if (m_isSloped) m_out.Text(" ").Integer(m_scale.ByteOf(point.Alt));
+    m_out.EndLine();
+  }
+
+  ScmWriter& m_out;
+  bool m_isSloped;
+  const LwmCutPoly* m_poly = nullptr;  ///< whose piece came last
+  AltitudeScale m_scale{0, 0};
+  std::string_view m_areaStart;
+  std::string m_polyEnd;  ///< kind and altitudes
+};
+
+void WriteCell(ScmWriter& out, PieceWriter& pieces, const LwmCell& cell, std::int64_t number,
+               bool fillAsPoly) {
+  WriteCellLabel(out, number);
+  out.EmptyLine();
+  WriteFills(out, cell.Fills, fillAsPoly);
   for (const LwmPolyRec& piece : cell.Polys)
-    WritePiece(out, piece, options.Kind);
+    pieces.Write(piece);
 }
 
 void WriteIndexList(ScmWriter& out, const std::vector<LwmCell>& cells, bool fillAsPoly) {
@@ -94,10 +112,11 @@ std::size_t ExpectedSize(const std::vector<LwmCell>& cells) {
 std::string LwmText(const std::vector<LwmCell>& cells, const LwmTextOptions& options) {
   ScmWriter out;
   out.Reserve(ExpectedSize(cells));
-  WriteHeader(out, options);
+  WriteHead(out, options);
+  PieceWriter pieces(out, options.Kind);
   std::int64_t number = 0;
   for (const LwmCell& cell : cells)
-    WriteCell(out, cell, number++, options);
+    WriteCell(out, pieces, cell, number++, options.FillAsPoly);
   WriteIndexList(out, cells, options.FillAsPoly);
   out.EmptyLine().Line("LWMEnd").EmptyLine();
   return out.Take();

@@ -11,6 +11,7 @@ namespace landsmith {
 namespace {
 
 constexpr std::int32_t AreasPerCell = 32;
+constexpr std::int32_t WorldCols = 768, WorldRows = 512;  // in Cells
 /// With more passages through one square than this the plain walk, whose time can grow with their cube, is
 /// not tried; the exact one sorts them.
 constexpr std::size_t MostWalkedPassages = 200;
@@ -43,6 +44,7 @@ public:
 
 private:
   void AddSquare(const VisitedSquare& square) {
+    if (!IsInWorld(square.Square)) return;
     if (square.RunCount == 0) {
       AddPiece(square.Square, WholeSquare());
       return;
@@ -60,6 +62,13 @@ private:
     }
     for (const ClosedRing& ring : rings)
       AddPiece(square.Square, ring);
+  }
+
+  /// Vertices at 180 degrees east and at the south pole lie in squares that no file can name. The ring has no
+  /// area there.
+  bool IsInWorld(SquareIndex square) const {
+    const std::int32_t perCell = m_rules.Grid == SquareGrid::Areas ? AreasPerCell : 1;
+    return square.Col < WorldCols * perCell && square.Row < WorldRows * perCell;
   }
 
   void ListPoints(const VisitedSquare& square) {

@@ -19,18 +19,24 @@ struct PlacedVertex {
   SquarePoint Point;
 };
 
+/// In Points along the side from its north or west end: where the edge crosses it, but not farther than half
+/// a Point from where the cut stands. Edges that run along a line cross it anywhere.
+double AlongSide(double degrees, double step, std::int32_t point, std::int32_t side) {
+  const double along = std::clamp(degrees / step, point - 0.5, point + 0.5);
+  return std::clamp(along, 0.0, static_cast<double>(side));
+}
+
 /// Clockwise from the north-west corner: 0 to N on the north side, to 2 N on the east side and so on. The cut
 /// stays on its side however it was moved.
 double BorderPlace(const CutVertex& vertex, const PlacedVertex& at, SquareGrid grid) {
   const GridLines lines = LinesOf(grid);
-  const double side = PointsPerSide(grid);
+  const std::int32_t side = PointsPerSide(grid);
   if (IsOverParallel(vertex.Mark)) {
-    const double east = vertex.Crossing + 180 - at.Square.Col * lines.Width;
-    const double x = std::clamp(east / StepLon, 0.0, side);
+    const double x =
+        AlongSide(vertex.Crossing + 180 - at.Square.Col * lines.Width, StepLon, at.Point.X, side);
     return at.Point.Y == 0 ? x : 3 * side - x;
   }
-  const double south = 90 - vertex.Crossing - at.Square.Row * lines.Height;
-  const double y = std::clamp(south / StepLat, 0.0, side);
+  const double y = AlongSide(90 - vertex.Crossing - at.Square.Row * lines.Height, StepLat, at.Point.Y, side);
   return at.Point.X == 0 ? 4 * side - y : side + y;
 }
 

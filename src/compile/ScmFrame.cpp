@@ -5,10 +5,8 @@
 namespace landsmith {
 
 void WriteHeader(ScmWriter& out, const GeoBox& bounds) {
-  GeoBox box = bounds;
-  if (box == GeoBox{}) box.Add(0, 0);
-  out.Text("Header( 1 ").Integer(Floor(box.NLat + 1)).Text(" ").Integer(Floor(box.SLat));
-  out.Text(" ").Integer(Floor(box.ELon + 1)).Text(" ").Integer(Floor(box.WLon)).Line(" )");
+  out.Text("Header( 1 ").Integer(Floor(bounds.NLat + 1)).Text(" ").Integer(Floor(bounds.SLat));
+  out.Text(" ").Integer(Floor(bounds.ELon + 1)).Text(" ").Integer(Floor(bounds.WLon)).Line(" )");
 }
 
 void WriteCellLabel(ScmWriter& out, std::int64_t number) {

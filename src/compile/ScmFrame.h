@@ -8,8 +8,8 @@
 
 namespace landsmith {
 
-/// The line "Header( 1 N S E W )", whole degrees that hold `bounds`. Bounds that hold nothing become the
-/// degree north and east of 0, 0: a header whose north lies south of its south is no header to the tool.
+/// The line "Header( 1 N S E W )", whole degrees that hold `bounds`; bounds that hold nothing stand as they
+/// are.
 void WriteHeader(ScmWriter& out, const GeoBox& bounds);
 
 /// An empty line and the label of a Cell, ":cell07"; numbers count from 0.

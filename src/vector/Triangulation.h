@@ -17,11 +17,20 @@ struct Triangle {
 
 struct Triangulation {
   std::vector<Triangle> Triangles;  ///< in the order in which the ears are clipped; always ring size - 2
-  bool HasFault = false;            ///< a round found no ear: the ring crosses itself or runs the other way
+  bool HasFault = false;            ///< a round found no ear: the ring meets itself or runs the other way
 };
 
-/// `ring`: clockwise on the map, the first vertex not repeated. Each round clips the first ear from the
-/// second vertex on. A ring of fewer than 3 vertices has no triangles.
+/// `ring`: in degrees, finite, clockwise on the map, the first vertex not repeated. Each round clips the
+/// first ear from the second vertex on: the vertex before it, itself and the one behind it make a triangle;
+/// the last three vertices make the last one. An ear is a vertex that is not reflex and whose triangle holds
+/// no other vertex; of the points on a triangle's edges those on its western ones are inside.
+///
+/// A round without an ear clips at the place where the round before did, the very first one at the second
+/// vertex, and none behind the last vertex: the triangles are then complete in number and may overlap. Before
+/// that is settled the ring is tried once more with coordinates rounded so that the arithmetic is exact (to
+/// 2^-24 of its extent); if no round fails then, those triangles count and there is no fault.
+///
+/// A ring of fewer than 3 vertices has no triangles. The time grows about as n log n.
 Triangulation TriangulateRing(std::span<const LatLon> ring);
 
 }  // namespace landsmith

@@ -1,7 +1,9 @@
 #include "wiring/CompileSteps.h"
 
+#include "compile/LwmPolys.h"
 #include "compile/VtpLines.h"
 #include "raster/ClassCells.h"
+#include "raster/CompileFills.h"
 #include "vector/LineType.h"
 
 #include <algorithm>
@@ -52,6 +54,22 @@ bool HasExcludes(const ProjectState& project) {
   return AnySelected(project.Excludes);
 }
 
+constexpr std::string_view FillsStep = "fills", LwmStep = "lwm";
+
+/// One file for both kinds of mask; the row of the fills then does the work of both.
+bool SharesLwmFile(const CompileContext& context) {
+  return context.settings.SingleLWMBGL && context.Runs(FillsStep) && context.Runs(LwmStep);
+}
+void RunFills(const CompileContext& context) {
+  if (SharesLwmFile(context))
+    CompileLWMFillsAndPolys(context);
+  else
+    CompileFills(context);
+}
+void RunLwmPolys(const CompileContext& context) {
+  if (!SharesLwmFile(context)) CompileLWMPolys(context, LwmPolyChoice::FlatAndSloped);
+}
+
 }  // namespace
 
 const StepTable& CompileSteps() {
@@ -63,8 +81,8 @@ const StepTable& CompileSteps() {
       {"bitmaps", "ckBitmaps", "frPhoto", "Photo Bitmaps", nullptr, true, true, nullptr},
       {"xphoto", "ckXPhoto", "frPhoto", "High Resolution Photos", nullptr, false, true, nullptr},
       {"xbitmaps", "ckXBitmaps", "frPhoto", "High Resolution Bitmaps", nullptr, false, true, nullptr},
-      {"fills", "ckFills", "frLWM", "Area Fills", HasFills, true, false, nullptr},
-      {"lwm", "ckLWMPolys", "frLWM", "LWM Polygons", HasLwmPolys, true, false, nullptr},
+      {FillsStep, "ckFills", "frLWM", "Area Fills", HasFills, true, false, RunFills},
+      {LwmStep, "ckLWMPolys", "frLWM", "LWM Polygons", HasLwmPolys, true, false, RunLwmPolys},
       {"tex", "ckPolyTex", "frOther", "Textured Polygons", HasTexturedPolys, true, false, nullptr},
       {"vtp-polys", "ckVTPPolys", "frVTP", "VTP Polygons", HasVtpPolys, true, false, nullptr},
       {"exc-polys", "ckEXCPolys", "frOther", "Exclusion Polygons", HasExcludePolys, true, false, nullptr},

@@ -1,0 +1,15 @@
+// The convex parts of a piece in a Cell.
+#pragma once
+
+#include "vector/ConvexParts.h"
+
+#include <span>
+#include <vector>
+
+namespace landsmith {
+
+/// `ring`: a piece of ClipPolyToCells. Repeated points and spikes hide dents from the cutting into parts;
+/// they are taken out where a part would not be convex with them.
+std::vector<ConvexPart> ConvexPieces(std::span<const CellPoint> ring);
+
+}  // namespace landsmith
