@@ -1,10 +1,10 @@
 // The two programs as a compilation starts them: from the tools folder, found as stand-ins.
 #include "Sources.h"
-#include "VtpFileReader.h"
 #include "core/Text.h"
 #include "platform/Paths.h"
 #include "platform/Tools.h"
 #include "simtools/BmpImage.h"
+#include "support/BglReaders.h"
 #include "support/ScriptedDialogs.h"
 #include "support/TempFolder.h"
 
@@ -39,7 +39,7 @@ TEST_F(Programs, ScasmWritesTheBglAndForgetsOldErrors) {
   WriteWholeFile(m_tools / "work/My Road_VTPL.scm", test::OneRoad);
   WriteWholeFile(m_tools / "SCAERROR.LOG", "old");
   EXPECT_EQ(Run("scasm \"work\\My Road_VTPL.scm\" -s -l"), 0);
-  const auto file = test::ReadVtpFile(ReadWholeFile(m_tools / "work/My Road_VTPL.BGL"));
+  const auto file = landsmith::test::ReadVtpFile(ReadWholeFile(m_tools / "work/My Road_VTPL.BGL"));
   EXPECT_EQ(file.Features.size(), 1U);
   EXPECT_FALSE(Exists("SCAERROR.LOG"));
   EXPECT_THAT(Log("scasm.log"), HasSubstr("Landsmith stand-in compiler"));

@@ -1,10 +1,10 @@
 #include "simtools/VtpBgl.h"
 
 #include "Sources.h"
-#include "VtpFileReader.h"
 #include "core/Text.h"
 #include "simtools/BglWriter.h"
 #include "simtools/ScmChecker.h"
+#include "support/BglReaders.h"
 
 #include <gtest/gtest.h>
 
@@ -12,10 +12,10 @@
 
 namespace landsmith::simtools {
 
-using test::FeatureRead;
-using test::LinePointRead;
+using landsmith::test::VtpFeatureRead;
+using landsmith::test::VtpFileRead;
+using landsmith::test::VtpPointRead;
 using test::OneRoad;
-using test::VtpFileRead;
 
 namespace {
 
@@ -24,7 +24,7 @@ VtpFileRead CompileAndRead(const std::string& source) {
   for (const ScmError& error : checked.Errors)
     ADD_FAILURE() << "line " << error.Line << ": " << error.Reason;
   if (!checked.Vtp) throw std::runtime_error("no vector terrain");
-  return test::ReadVtpFile(WriteBgl(checked.Header, VtpBlock(*checked.Vtp)));
+  return landsmith::test::ReadVtpFile(WriteBgl(checked.Header, VtpBlock(*checked.Vtp)));
 }
 
 TEST(VtpBgl, GivesBackCellsLayersTexturesAndPoints) {
@@ -65,7 +65,7 @@ TEST(VtpBgl, GivesBackCellsLayersTexturesAndPoints) {
   const struct {
     int cellCol, cellRow, group;
     const char* texture;
-    std::vector<LinePointRead> points;
+    std::vector<VtpPointRead> points;
   } expected[] = {
       {401, 120, 13, "153", {{5000, 6000, 12}, {5012, 5993, 12}, {6034, 4971, 13}, {6033, 4971, 13}}},
       {401, 120, 13, "153", {{0, 16383, 0}, {16383, 0, 0}, {4080, 12240, 255}}},
@@ -76,7 +76,7 @@ TEST(VtpBgl, GivesBackCellsLayersTexturesAndPoints) {
   ASSERT_EQ(file.Features.size(), std::size(expected));
   for (std::size_t i = 0; i < std::size(expected); ++i) {
     SCOPED_TRACE(i);
-    const FeatureRead& feature = file.Features[i];
+    const VtpFeatureRead& feature = file.Features[i];
     EXPECT_EQ(std::tuple(feature.Kind, feature.CellCol, feature.CellRow, feature.Group),
               std::tuple(1, expected[i].cellCol, expected[i].cellRow, expected[i].group));
     EXPECT_EQ(feature.TexText, expected[i].texture);
@@ -109,10 +109,10 @@ TEST(VtpBgl, CountsOverflowIntoMoreBytesAtTheRightNumber) {
     SCOPED_TRACE(std::to_string(row.textures) + " " + std::to_string(row.polys));
     const VtpFileRead file = CompileAndRead(SourceOfSize(row.textures, row.polys, row.points));
     ASSERT_EQ(file.Features.size(), static_cast<std::size_t>(row.polys));
-    const FeatureRead& last = file.Features.back();
+    const VtpFeatureRead& last = file.Features.back();
     EXPECT_EQ(last.TexText, std::to_string(row.textures - 1));
     ASSERT_EQ(last.Points.size(), static_cast<std::size_t>(row.points));
-    EXPECT_EQ(last.Points.back(), (LinePointRead{row.points - 1, row.polys - 1, 0}));
+    EXPECT_EQ(last.Points.back(), (VtpPointRead{row.points - 1, row.polys - 1, 0}));
   }
 }
 
