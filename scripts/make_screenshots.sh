@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Makes the pictures of docs/ on a virtual screen: the sample with the properties of a line, drawing over a map, a
-# selection, the form of a point, the calibration, and the window on a dark desktop.
+# selection, the form of a point, the calibration, area fills, and the window on a dark desktop.
 # Usage: scripts/make_screenshots.sh [BUILD_FOLDER]   (build/release unless told otherwise)
 # Needs the packages xvfb, openbox, xdotool, imagemagick and fonts-dejavu-core beside those of the build.
 set -euo pipefail
@@ -161,6 +161,37 @@ calibrate() {
   at 1000 730
 }
 
+fill_blocks() {  # water of a large size, a flatten of a small one
+  tool f
+  at 640 400
+  xdotool click --repeat 2 --delay 300 5
+  sleep 1
+  xdotool key alt+v g Down Down Down Down Down Down Down Return  # LOD 11
+  sleep 1
+  stroke 250 470 330 610
+  stroke 330 610 560 620
+  xdotool key alt+v g Down Down Down Down Down Down Down Down Down Return  # LOD 13
+  sleep 1
+  xdotool mousemove --window "$(dialog '^Area Fills$')" 30 104 click 1
+  sleep 0.3
+  xdotool key Tab
+  xdotool type 58
+  sleep 0.3
+  stroke 850 465 940 465
+  stroke 940 481 850 481
+  at 985 505
+}
+
+stroke() {  # X1 Y1 X2 Y2; slow enough to be more than a click
+  at "$1" "$2"
+  xdotool mousedown 1
+  sleep 0.3
+  at $((($1 + $3) / 2)) $((($2 + $4) / 2))
+  at "$3" "$4"
+  xdotool mouseup 1
+  sleep 0.4
+}
+
 pick_point() {  # X of the buttons, X Y of the place: where it lies, then which pixel it is
   click "$1" 525
   click "$2" "$3"
@@ -209,6 +240,12 @@ point_form
 picture point
 calibrate
 picture calibration
+stop
+
+start
+add_map
+fill_blocks
+picture fills
 stop
 
 be_dark

@@ -31,6 +31,7 @@ void DescribeCommands(CLI::App& app, Command& chosen) {
   AddProjectCommands(app, chosen);
   AddEditCommand(app, chosen);
   AddCompileCommand(app, chosen);
+  AddValidateCommand(app, chosen);
   AddRenderCommand(app, chosen);
   AddGridCommands(app, chosen);
   AddUnsupportedCommands(app, chosen);
@@ -56,8 +57,7 @@ int Carry(const Command& command, BatchRun& run, const BatchOptions& options) {
 }  // namespace
 
 void AddUnsupportedCommands(CLI::App& app, Command& chosen) {
-  constexpr std::array<std::pair<const char*, const char*>, 3> commands{{
-      {"validate", "the check before compiling (not in this version)"},
+  constexpr std::array<std::pair<const char*, const char*>, 2> commands{{
       {"dem", "elevation grids (not in this version)"},
       {"geo", "datums and projections (not in this version)"},
   }};

@@ -18,6 +18,7 @@ int RunBatch(int argc, char** argv);
 void AddProjectCommands(CLI::App& app, Command& chosen);  ///< new, info, dump, convert, append
 void AddEditCommand(CLI::App& app, Command& chosen);
 void AddCompileCommand(CLI::App& app, Command& chosen);
+void AddValidateCommand(CLI::App& app, Command& chosen);
 void AddRenderCommand(CLI::App& app, Command& chosen);
 void AddGridCommands(CLI::App& app, Command& chosen);  ///< grid, coord
 /// Commands of the contract whose subject this version does not have: they say so.

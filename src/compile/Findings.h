@@ -1,7 +1,12 @@
 // What an author should know before compiling. Findings never keep anything from being compiled.
+//
+// Each selected line and polygon that a compiler takes is looked at by itself, as that compiler will see it:
+// its fields as the compiler reads them, its vertices on the Points that they snap to. An item has one
+// finding of a kind at most, however many places show it.
 #pragma once
 
 #include "core/Project.h"
+#include "core/Settings.h"
 
 #include <cstddef>
 #include <string>
@@ -10,18 +15,38 @@
 
 namespace landsmith {
 
-/// An error makes the compiler fail; a warning gives scenery that is not what was drawn.
+/// An error makes the compiler or its tool fail; a warning gives scenery that is not what was drawn.
 enum class FindingSeverity { Warning, Error };
 
 struct Finding {
   FindingSeverity Severity = FindingSeverity::Warning;
-  std::string_view Kind;  ///< "Line", "Poly"
+  std::string_view Kind;  ///< LineFinding or PolyFinding
   std::size_t Item = 0;   ///< 0-based place in its collection
-  LatLon At;              ///< where to look
+  LatLon At;              ///< where to look: always a place of the world
   std::string Text;       ///< one sentence, without the item's number
 };
 
+inline constexpr std::string_view LineFinding = "Line", PolyFinding = "Poly";
+
+/// The check in steps of one item, for a window that goes on living meanwhile. Project and settings must not
+/// change before it is done.
+class ItemCheck {
+public:
+  ItemCheck(const ProjectState& project, const AppSettings& settings);
+  /// Looks at the next selected item, lines first, and adds what it finds. False when there was none left.
+  bool Next(std::vector<Finding>& findings);
+
+private:
+  template <class Path>
+  bool NextOf(const RecordList<Path>& paths, std::size_t first, std::string_view kind,
+              std::vector<Finding>& findings);
+
+  const ProjectState& m_project;
+  LatLon m_shift;          ///< of vector terrain
+  std::size_t m_next = 0;  ///< counts the lines and then the polygons
+};
+
 /// All findings of the selected lines and polygons: lines first, by item.
-std::vector<Finding> CheckSelectedItems(const ProjectState& project);
+std::vector<Finding> CheckSelectedItems(const ProjectState& project, const AppSettings& settings);
 
 }  // namespace landsmith

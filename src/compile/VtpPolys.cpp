@@ -1,11 +1,11 @@
 #include "compile/VtpPolys.h"
 
 #include "compile/CompileStep.h"
+#include "compile/ConvexPieces.h"
 #include "compile/PolyClip.h"
 #include "compile/VtpItems.h"
 #include "compile/VtpText.h"
 #include "compile/VtpTree.h"
-#include "vector/ConvexParts.h"
 #include "vector/PolyType.h"
 
 #include <utility>
@@ -27,7 +27,7 @@ public:
       m_ring.clear();
       for (const PiecePoint& point : clipped.PointsOf(piece))
         m_ring.push_back({point.X, point.Y});
-      for (ConvexPart& part : DecomposeConvex(m_ring))
+      for (ConvexPart& part : ConvexPieces(m_ring))
         m_polys.push_back({item.TexId, item.Layer, piece.CellX, piece.CellY, std::move(part)});
     }
   }

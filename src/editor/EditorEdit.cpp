@@ -88,6 +88,7 @@ void Editor::ShowTargetProperties(const PopupTarget& target) {
   if (target.Kind == "PtInLine" || target.Kind == "PtInPoly") m_host.ShowPointForm(target);
   if (target.Kind == "Line") m_host.ShowLineProperties(target.Item);
   if (target.Kind == "Poly") m_host.ShowPolyProperties(target.Item);
+  if (target.Kind == "Fill") m_host.ShowFillProperties(target.Item);
   if (target.Kind == "Map") m_host.ShowMapProperties(target.Item);
 }
 

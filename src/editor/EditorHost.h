@@ -37,6 +37,8 @@ public:
   virtual void ShowLineProperties(std::optional<std::size_t> line) = 0;
   /// Opens `frmPolysP` for one polygon (0-based), or for all selected ones when empty.
   virtual void ShowPolyProperties(std::optional<std::size_t> /*poly*/) {}
+  /// Opens `frmFillsP` for an area fill (0-based) and returns when it is closed.
+  virtual void ShowFillProperties(std::size_t /*fill*/) {}
   /// Opens `frmMapsP` for a map (0-based) and returns when it is closed.
   virtual void ShowMapProperties(std::size_t /*map*/) {}
   /// Opens `frmPoints0P` for a vertex, "PtInLine" or "PtInPoly"; the canvas stays alive beside it.

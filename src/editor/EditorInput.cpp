@@ -130,6 +130,7 @@ void Editor::Release(const PointerInput& in) {
 }
 
 void Editor::PointerLeft() {
+  m_mode->HoverEnd();
   if (m_context.measure.Started()) return;  // what it tells is still true
   m_host.StopTimer(TimerId::Label);
   HideHoverLabel(m_context);

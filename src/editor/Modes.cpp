@@ -1,6 +1,7 @@
 #include "editor/Modes.h"
 
 #include "editor/ExcludeMode.h"
+#include "editor/FillMode.h"
 #include "editor/Gestures.h"
 #include "editor/MapMode.h"
 #include "editor/MenuMode.h"
@@ -26,29 +27,6 @@ public:
   }
   CursorShape Cursor() const override { return CursorShape::Zoom; }
   std::string Hint() const override { return "Click: zoom in. Right click: zoom out"; }
-};
-
-CursorShape CursorOfBrush(int fillSize) {
-  switch (fillSize) {
-    case 2:
-      return CursorShape::Fill2;
-    case 4:
-      return CursorShape::Fill4;
-    case 8:
-      return CursorShape::Fill8;
-    case 16:
-      return CursorShape::Fill16;
-    case 32:
-      return CursorShape::Fill32;
-    default:
-      return CursorShape::Fill1;
-  }
-}
-
-class FillMode final : public MenuMode {
-public:
-  explicit FillMode(ModeContext& context) : MenuMode(context, CursorShape::Fill1) {}
-  CursorShape Cursor() const override { return CursorOfBrush(TheSession().view.FillSize); }
 };
 
 constexpr std::size_t ModeCount = 12;

@@ -2,6 +2,7 @@
 #include "core/Color.h"
 #include "editor/PaintHelpers.h"
 #include "editor/Painters.h"
+#include "raster/AreaFill.h"
 
 #include <array>
 
@@ -19,14 +20,15 @@ void HatchedBox(Surface& surface, const PixelBox& box, std::int32_t color) {
 
 std::int32_t FillColor(const FillRec& fill, const AppSettings& settings) {
   if (fill.Selected) return FillSelectionColor;
-  switch (fill.Type) {
-    case 0:
+  switch (TypeOfFill(fill)) {
+    case FillType::Water:
       return settings.PolyWaterColor;
-    case 1:
+    case FillType::Land:
       return settings.PolyLandColor;
-    default:
-      return settings.PolyFlattenColor;
+    case FillType::Flatten:
+      break;
   }
+  return settings.PolyFlattenColor;
 }
 
 void DrawEdges(Surface& surface, const PixelBox& box) {
@@ -60,13 +62,16 @@ void DisplayPhotos(Surface& surface, const PaintInput& in) {
   }
 }
 
-void DisplayFills(Surface& surface, const PaintInput& in) {
+void PaintFill(Surface& surface, const FillRec& fill, const ViewState& view, const AppSettings& settings) {
+  if (!Meets(view, fill.Box)) return;
   surface.SetPen(0);
-  for (const FillRec& fill : in.project.Fills) {
-    if (!Meets(in.view, fill.Box)) continue;
-    surface.SetBrush(FillColor(fill, in.settings));
-    surface.Box(CanvasBox(in.view, fill.Box));
-  }
+  surface.SetBrush(FillColor(fill, settings));
+  surface.Box(CanvasBox(view, fill.Box));
+}
+
+void DisplayFills(Surface& surface, const PaintInput& in) {
+  for (const FillRec& fill : in.project.Fills)
+    PaintFill(surface, fill, in.view, in.settings);
 }
 
 void DisplayExcludes(Surface& surface, const PaintInput& in) {

@@ -44,6 +44,8 @@ struct PaintInput {
 void DisplayMaps(Surface& surface, const PaintInput& in);
 void DisplayMeshes(Surface& surface, const PaintInput& in);
 void DisplayFills(Surface& surface, const PaintInput& in);
+/// One of them, which may lie outside the view.
+void PaintFill(Surface& surface, const FillRec& fill, const ViewState& view, const AppSettings& settings);
 void DisplayLands(Surface& surface, const PaintInput& in);
 void DisplayWaters(Surface& surface, const PaintInput& in);
 void DisplayPhotos(Surface& surface, const PaintInput& in);

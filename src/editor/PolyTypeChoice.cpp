@@ -97,9 +97,10 @@ void ApplyLwm(PolyRec& poly, const PolyTypeChoice& choice) {
 }
 
 // The pairs belong to the vertices of each polygon.
-void ApplyTex(PolyRec& poly, TexPolyType tex, const PolyType& before) {
+void ApplyTex(PolyRec& poly, const PolyTypeChoice& choice, const PolyType& before) {
+  TexPolyType tex = WithDefaults(choice.Tex);
   const auto* own = std::get_if<TexPolyType>(&before);
-  tex.Pairs = own ? own->Pairs : std::string();
+  tex.Pairs = choice.TiedPairs.value_or(own ? own->Pairs : std::string());
   poly.Type = EncodePolyType(tex);
   SetTexCoords(poly, false);
 }
@@ -150,7 +151,7 @@ void ApplyPolyType(PolyRec& poly, const PolyTypeChoice& choice, std::int32_t col
   poly.Type = TypeOfChoice(choice);
   poly.Color = color;
   if (choice.Option == PolyOption::Lwm) ApplyLwm(poly, choice);
-  if (choice.Option == PolyOption::Tex) ApplyTex(poly, WithDefaults(choice.Tex), before);
+  if (choice.Option == PolyOption::Tex) ApplyTex(poly, choice, before);
 }
 
 AltitudeSpan AltitudesOf(const PolyRec& poly) {

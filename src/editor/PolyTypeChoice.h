@@ -33,6 +33,8 @@ struct PolyTypeChoice {
   std::string ClassTexture, AssembledTexture, NamedTexture;
   std::set<int> Layers;  ///< of an exclusion
   TexPolyType Tex;
+  /// Texture pairs that the author has set; without them each polygon keeps its own.
+  std::optional<std::string> TiedPairs;
   bool operator==(const PolyTypeChoice&) const = default;
 };
 

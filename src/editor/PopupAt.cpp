@@ -85,7 +85,7 @@ constexpr std::array Kinds{
     RecordRow<&ProjectState::Photos>("Photo", "Delete this Photo ?", false),
     CellRow<&ProjectState::Lands, &ProjectState::NoOfLands>("Land", "Delete this Land Class ?"),
     CellRow<&ProjectState::Waters, &ProjectState::NoOfWaters>("Water", "Delete this Water Class ?"),
-    RecordRow<&ProjectState::Fills>("Fill", "Delete this Area Fill ?", false),
+    RecordRow<&ProjectState::Fills>("Fill", "Delete this Area Fill ?", true),
     RecordRow<&ProjectState::Meshes>("Mesh", "Delete this Mesh tile ?", false),
     RecordRow<&ProjectState::Objects>("Object", "Delete this Object ?", false),
     RecordRow<&ProjectState::Maps>("Map", "Delete this Map ?", true),

@@ -88,6 +88,7 @@ public:
   /// May return a drag that the canvas then owns.
   virtual std::unique_ptr<Gesture> Press(const PointerInput& in) = 0;
   virtual void Hover(const PointerInput&) {}
+  virtual void HoverEnd() {}  ///< the mouse is no longer over the canvas
   virtual bool Key(const KeyInput&) { return false; }  ///< true: used
   virtual void Tick(TimerId) {}
   virtual CursorShape Cursor() const { return CursorShape::Arrow; }
@@ -98,7 +99,7 @@ public:
   virtual bool Abandon() { return false; }
   /// What a click does at this moment, in a few words for the status bar: "Click: start a line".
   virtual std::string Hint() const { return {}; }
-  virtual void Paint(Surface&) const {}  ///< rubber lines
+  virtual void Paint(Surface&) const {}  ///< rubber lines, the block that a click fills
 };
 
 }  // namespace landsmith

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "editor/VertexRef.h"
+#include "raster/AreaFill.h"
 #include "vector/Selection.h"
 
 #include <cstdint>
@@ -22,6 +23,9 @@ struct ToolState {
   bool MeasureOn = false;
   bool PasteArmed = false;        ///< the next left press pastes
   std::optional<VertexRef> Walk;  ///< where the walk by the arrow keys stands
+  /// What the next area fill will be.
+  FillType CurrentFillType = FillType::Water;
+  float CurrentFillHeight = 0;  ///< metres
 };
 
 }  // namespace landsmith

@@ -1,7 +1,9 @@
 #include "wiring/CompileSteps.h"
 
+#include "compile/ExcludePolys.h"
 #include "compile/LwmPolys.h"
 #include "compile/VtpLines.h"
+#include "compile/VtpPolys.h"
 #include "raster/ClassCells.h"
 #include "raster/CompileFills.h"
 #include "vector/LineType.h"
@@ -84,8 +86,9 @@ const StepTable& CompileSteps() {
       {FillsStep, "ckFills", "frLWM", "Area Fills", HasFills, true, false, RunFills},
       {LwmStep, "ckLWMPolys", "frLWM", "LWM Polygons", HasLwmPolys, true, false, RunLwmPolys},
       {"tex", "ckPolyTex", "frOther", "Textured Polygons", HasTexturedPolys, true, false, nullptr},
-      {"vtp-polys", "ckVTPPolys", "frVTP", "VTP Polygons", HasVtpPolys, true, false, nullptr},
-      {"exc-polys", "ckEXCPolys", "frOther", "Exclusion Polygons", HasExcludePolys, true, false, nullptr},
+      {"vtp-polys", "ckVTPPolys", "frVTP", "VTP Polygons", HasVtpPolys, true, false, CompileVTPPolys},
+      {"exc-polys", "ckEXCPolys", "frOther", "Exclusion Polygons", HasExcludePolys, true, false,
+       CompileExcludePolys},
       {"vtp-lines", "ckVTPLines", "frVTP", "VTP Lines", HasSelectedVtpLine, true, false, CompileVTPLines},
       {"meshes", "ckMeshes", "frOther", "Meshes", HasMeshes, true, false, nullptr},
       {"objects", "ckObjects", "frOther", "Objects", HasObjects, true, false, nullptr},

@@ -1,4 +1,6 @@
+#include "compile/ExcludePolys.h"
 #include "compile/VtpLines.h"
+#include "compile/VtpPolys.h"
 #include "core/Grid.h"
 #include "core/Text.h"
 #include "platform/Paths.h"
@@ -7,17 +9,19 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <ostream>
 #include <sstream>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <vector>
 
 namespace landsmith::test {
 namespace {
 
-// The small text form of lines that the cases and their reference share.
-struct GoldenLines {
+// The small text form of lines and polygons that the cases and the reference of the lines share.
+struct GoldenDrawing {
   ProjectState project;
   AppSettings settings;
 };
@@ -31,26 +35,47 @@ void ReadSetting(AppSettings& settings, const std::string& key, std::istringstre
     rest >> settings.VTPReplace;
 }
 
-/// `at CELLX CELLY X Y WIDTH` or `LAT LON WIDTH`.
-LinePoint ReadVertex(const std::string& first, std::istringstream& rest) {
-  LinePoint point;
+/// `at CELLX CELLY X Y` or `LAT LON`.
+LatLon ReadPlace(const std::string& first, std::istringstream& rest) {
+  LatLon at;
   if (first == "at") {
     GridPositionCell position;
-    rest >> position.CellX >> position.CellY >> position.PointX >> position.PointY >> point.Wid;
-    const LatLon at = PointInCellToLatLon(position);
-    point.Lat = at.lat;
-    point.Lon = at.lon;
+    rest >> position.CellX >> position.CellY >> position.PointX >> position.PointY;
+    at = PointInCellToLatLon(position);
   } else {
-    point.Lat = std::stod(first);
-    rest >> point.Lon >> point.Wid;
+    at.lat = std::stod(first);
+    rest >> at.lon;
   }
   if (!rest) throw std::runtime_error("a vertex that cannot be read: " + first);
-  return point;
+  return at;
 }
 
-GoldenLines ReadGoldenLines(std::string_view text) {
-  GoldenLines result;
+/// Lines alone have a width behind the place.
+void AddVertex(LineRec& line, LatLon at, std::istringstream& rest) {
+  LinePoint point{at.lon, at.lat, 0, false};
+  if (!(rest >> point.Wid)) throw std::runtime_error("a vertex without a width");
+  line.Points.push_back(point);
+}
+void AddVertex(PolyRec& poly, LatLon at, std::istringstream&) {
+  poly.Points.push_back({at.lon, at.lat, 0, false});
+}
+
+/// One statement of the record at hand.
+template <class Path>
+void ReadStatement(Path& path, const std::string& first, const std::string& rest, std::istringstream& words) {
+  if (first == "name")
+    path.Name = rest;
+  else if (first == "type")
+    path.Type = rest;
+  else
+    AddVertex(path, ReadPlace(first, words), words);
+}
+
+GoldenDrawing ReadGoldenDrawing(std::string_view text) {
+  GoldenDrawing result;
   auto& lines = result.project.Lines;
+  auto& polys = result.project.Polys;
+  bool isPoly = false;
   for (const std::string_view view : SplitLines(text)) {
     std::istringstream words{std::string(view)};
     std::string first;
@@ -59,42 +84,71 @@ GoldenLines ReadGoldenLines(std::string_view text) {
     if (first.empty() || first.front() == '#') continue;
     if (first.starts_with("VTP")) {
       ReadSetting(result.settings, first, words);
-    } else if (first == "line") {
-      lines.emplace_back().Selected = rest == "selected";
-    } else if (first == "name") {
-      lines.EditBack().Name = rest;
-    } else if (first == "type") {
-      lines.EditBack().Type = rest;
+    } else if (first == "line" || first == "poly") {
+      isPoly = first == "poly";
+      (isPoly ? polys.emplace_back().Selected : lines.emplace_back().Selected) = rest == "selected";
+    } else if (isPoly) {
+      ReadStatement(polys.EditBack(), first, rest, words);
     } else {
-      lines.EditBack().Points.push_back(ReadVertex(first, words));
+      ReadStatement(lines.EditBack(), first, rest, words);
     }
   }
   return result;
 }
 
-const std::filesystem::path CasesFolder = std::filesystem::path(LANDSMITH_SOURCE_DIR) / "tests/golden/vtp";
+/// A folder of cases, each with its input, `expected.scm` and `about.txt`.
+struct GoldenSet {
+  const char* folder;
+  const char* input;
+  std::string (*source)(const GoldenDrawing&);
+};
 
-std::vector<std::string> CaseNames() {
-  std::vector<std::string> names;
-  for (const auto& entry : std::filesystem::directory_iterator(CasesFolder))
-    if (entry.is_directory()) names.push_back(entry.path().filename().string());
-  std::sort(names.begin(), names.end());
-  return names;
+const GoldenSet Sets[] = {
+    {"vtp", "lines.txt",
+     [](const GoldenDrawing& of) { return VtpLineSource(of.project, of.settings).value(); }},
+    {"vtp-polys", "polys.txt",
+     [](const GoldenDrawing& of) { return VtpPolySource(of.project, of.settings).value(); }},
+    {"exclude", "polys.txt", [](const GoldenDrawing& of) { return ExcludePolySource(of.project); }},
+};
+
+const std::filesystem::path GoldenFolder = std::filesystem::path(LANDSMITH_SOURCE_DIR) / "tests/golden";
+
+struct GoldenCase {
+  const GoldenSet* set;
+  std::string name;
+};
+void PrintTo(const GoldenCase& of, std::ostream* out) {
+  *out << of.set->folder << "/" << of.name;
 }
 
-class VtpGolden : public testing::TestWithParam<std::string> {};
+std::vector<GoldenCase> GoldenCases() {
+  std::vector<GoldenCase> cases;
+  for (const GoldenSet& set : Sets)
+    for (const auto& entry : std::filesystem::directory_iterator(GoldenFolder / set.folder))
+      if (entry.is_directory()) cases.push_back({&set, entry.path().filename().string()});
+  std::sort(cases.begin(), cases.end(), [](const GoldenCase& a, const GoldenCase& b) {
+    return std::tie(a.set, a.name) < std::tie(b.set, b.name);
+  });
+  return cases;
+}
 
-TEST_P(VtpGolden, IsByteForByteWhatTheReferenceWrote) {
-  const auto folder = CasesFolder / GetParam();
-  const GoldenLines input = ReadGoldenLines(ReadWholeFile(folder / "lines.txt"));
-  const auto source = VtpLineSource(input.project, input.settings);
-  ASSERT_TRUE(source.has_value());
-  EXPECT_EQ(ToWindows1252(*source), ReadWholeFile(folder / "expected.scm"))
+class VtpGolden : public testing::TestWithParam<GoldenCase> {};
+
+TEST_P(VtpGolden, IsByteForByteWhatWasWorkedOut) {
+  const GoldenSet& set = *GetParam().set;
+  const auto folder = GoldenFolder / set.folder / GetParam().name;
+  const std::string source = set.source(ReadGoldenDrawing(ReadWholeFile(folder / set.input)));
+  EXPECT_EQ(ToWindows1252(source), ReadWholeFile(folder / "expected.scm"))
       << ReadWholeFile(folder / "about.txt");
 }
 
-INSTANTIATE_TEST_SUITE_P(Cases, VtpGolden, testing::ValuesIn(CaseNames()),
-                         [](const auto& row) { return row.param; });
+std::string CaseName(const testing::TestParamInfo<GoldenCase>& row) {
+  std::string name = std::string(row.param.set->folder) + "_" + row.param.name;
+  std::replace(name.begin(), name.end(), '-', '_');
+  return name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Cases, VtpGolden, testing::ValuesIn(GoldenCases()), CaseName);
 
 }  // namespace
 }  // namespace landsmith::test

@@ -179,6 +179,7 @@ INSTANTIATE_TEST_SUITE_P(
                     DragRow{"poly", ModeId::Poly, {50, 50}, Left, false, 0},
                     DragRow{"object", ModeId::Object, {0, -50}, Left, false, 0},
                     DragRow{"exclude", ModeId::Exclude, {0, -100}, Left, false, 0},
+                    DragRow{"fill", ModeId::Fill, {0, 0}, Left, false, 0},
                     DragRow{"pan", ModeId::Zoom, {0, 0}, Middle, false, 0},
                     DragRow{"pan_key", ModeId::Map, {0, 0}, Left, false, 'P'},
                     DragRow{"zoom_key", ModeId::Line, {0, 0}, Left, false, 'Z'}),

@@ -157,7 +157,7 @@ INSTANTIATE_TEST_SUITE_P(
         PopupRow{"Photo", ModeId::Photo, "PHOTO # 1", "Delete this Photo ?", false},
         PopupRow{"Land", ModeId::Land, "LAND CLASS Row=512 Col=513", "Delete this Land Class ?", false},
         PopupRow{"Water", ModeId::Water, "WATER CLASS Row=512 Col=513", "Delete this Water Class ?", false},
-        PopupRow{"Fill", ModeId::Fill, "AREA FILL # 2", "Delete this Area Fill ?", false},
+        PopupRow{"Fill", ModeId::Fill, "AREA FILL # 2", "Delete this Area Fill ?", true},
         PopupRow{"Mesh", ModeId::Mesh, "MESH # 1", "Delete this Mesh tile ?", false},
         PopupRow{"Map", ModeId::Map, "Sheet", "Delete this Map ?", true}),
     [](const auto& row) { return std::string(row.param.kind); });

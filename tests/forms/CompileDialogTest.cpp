@@ -1,5 +1,6 @@
 // The compilation dialog: what it offers, the run, and what it shows afterwards.
 #include "DialogRig.h"
+#include "WindowRig.h"
 #include "forms/SourceExcerpt.h"
 #include "forms/frmBGL.h"
 #include "support/Builders.h"
@@ -8,6 +9,9 @@
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QTabWidget>
+#include <QTest>
+#include <QTimer>
+#include <QTreeWidget>
 
 namespace landsmith::test {
 namespace {
@@ -107,6 +111,89 @@ TEST_F(CompileDialog, TexturesAreCopiedOnlyWhileBitmapsAreMade) {
   EXPECT_TRUE(IsChecked(dialog, "ckCopyTEXs"));
   Press(dialog, "ckXBitmaps");
   EXPECT_FALSE(IsChecked(dialog, "ckCopyTEXs"));
+}
+
+/// A second road that crosses a Cell without a vertex in it, and a polygon that crosses itself.
+void AddFaultyItems(ProjectState& project) {
+  project.Lines.push_back(ALine().Vtp("4", "12").Through({{47.5, 8.1}, {47.5, 9.1}}).Selected());
+  PolyRec& knot = project.Polys.emplace_back();
+  knot.Name = "Lake";
+  knot.Type = "LWM//Water//0//0//1//1//";
+  knot.Selected = true;
+  for (const LatLon at : {LatLon{47, 8}, {47.01, 8.02}, {47, 8.02}, {47.01, 8}})
+    knot.Points.push_back({at.lon, at.lat, 0, false});
+}
+
+TEST_F(CompileDialog, FindingsAreListedAndLeadToTheirPlaces) {
+  AddFaultyItems(rig.session.project);
+  frmBGL dialog(rig.session, rig.display, nullptr);
+  std::vector<LatLon> places;
+  QObject::connect(&dialog, &frmBGL::GoTo, [&](LatLon at) { places.push_back(at); });
+  dialog.show();
+  auto& list = Find<QTreeWidget>(dialog, "lstFindings");
+  ASSERT_EQ(list.topLevelItemCount(), 2);
+  EXPECT_EQ(list.topLevelItem(0)->text(0), "Line 2");
+  EXPECT_EQ(list.topLevelItem(1)->text(0), "Polygon 1, Lake");
+  EXPECT_TRUE(list.topLevelItem(1)->text(1).contains("crosses itself"));
+
+  Press(dialog, "cmdGoTo");
+  QTest::keyClick(&list, Qt::Key_Down);
+  QTest::keyClick(&list, Qt::Key_Return);
+  list.setCurrentItem(list.topLevelItem(0));
+  const QPoint second = list.visualItemRect(list.topLevelItem(1)).center();
+  QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, second);
+  QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, second);
+  ASSERT_EQ(places.size(), 3U);
+  EXPECT_NEAR(places[0].lon, 8.6, 0.1);  // the Cell from 8.4375 to 8.90625 is the empty one
+  for (const std::size_t knot : {1U, 2U}) {
+    EXPECT_NEAR(places[knot].lat, 47.005, 1e-4);
+    EXPECT_NEAR(places[knot].lon, 8.01, 1e-4);
+  }
+  EXPECT_TRUE(dialog.isVisible());
+  EXPECT_TRUE(rig.tools.ran.empty()) << "Enter in the list compiles";
+  EXPECT_TRUE(Find<QWidget>(dialog, "cmdCompile").isEnabled());
+}
+
+TEST(CompileDialogInWindow, GoToShowsThePlaceBesideTheDialogAndKeepsTheSelection) {
+  WindowRig rig;
+  rig.ShowProject();
+  AddFaultyItems(rig.session.project);
+  bool asked = false;
+  QTimer::singleShot(0, [&] {
+    QWidget* dialog = QApplication::activeModalWidget();
+    ASSERT_NE(dialog, nullptr);
+    auto& list = Find<QTreeWidget>(*dialog, "lstFindings");
+    list.setCurrentItem(list.topLevelItem(1));
+    Press(*dialog, "cmdGoTo");
+    EXPECT_TRUE(dialog->isVisible());
+    asked = true;
+    dialog->close();
+  });
+  rig.Action("mnuFBGL").trigger();
+  ASSERT_TRUE(asked);
+  EXPECT_NEAR(rig.session.view.LatDispCenter, 47.005, 1e-4);
+  EXPECT_NEAR(rig.session.view.LonDispCenter, 8.01, 1e-4);
+  EXPECT_TRUE(rig.session.project.Lines[0].Selected);
+  EXPECT_TRUE(rig.session.project.Polys[0].Selected);
+}
+
+TEST_F(CompileDialog, WithoutFindingsThereIsNoList) {
+  frmBGL dialog(rig.session, rig.display, nullptr);
+  dialog.show();
+  EXPECT_FALSE(Find<QWidget>(dialog, "lstFindings").isVisible());
+  EXPECT_FALSE(Find<QWidget>(dialog, "cmdGoTo").isVisible());
+  EXPECT_TRUE(Find<QLabel>(dialog, "lbFindings").text().contains("nothing"));
+}
+
+TEST_F(CompileDialog, ALongCheckGoesOnWhileTheDialogLives) {
+  for (int i = 0; i < 20000; ++i)
+    AddFaultyItems(rig.session.project);
+  frmBGL dialog(rig.session, rig.display, nullptr);
+  dialog.show();
+  auto& list = Find<QTreeWidget>(dialog, "lstFindings");
+  EXPECT_LT(list.topLevelItemCount(), 40000);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return list.topLevelItemCount() == 40000; }, 60000));
+  EXPECT_TRUE(Find<QLabel>(dialog, "lbFindings").text().contains("40000"));
 }
 
 TEST(SourceExcerptTest, LongTextsAreCutBehindALine) {

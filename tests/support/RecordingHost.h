@@ -14,7 +14,7 @@ class RecordingHost final : public EditorHost {
 public:
   std::vector<PopupTarget> menus;
   std::vector<std::optional<std::size_t>> lineForms, polyForms;
-  std::vector<std::size_t> mapForms;
+  std::vector<std::size_t> fillForms, mapForms;
   std::vector<std::optional<ModeId>> modeForms;
   std::string label, hint;
   std::map<TimerId, int> running;  ///< timers that tick when the test says so
@@ -32,6 +32,7 @@ public:
   void ShowContextMenu(const PopupTarget& target) override { menus.push_back(target); }
   void ShowLineProperties(std::optional<std::size_t> line) override { lineForms.push_back(line); }
   void ShowPolyProperties(std::optional<std::size_t> poly) override { polyForms.push_back(poly); }
+  void ShowFillProperties(std::size_t fill) override { fillForms.push_back(fill); }
   void ShowMapProperties(std::size_t map) override { mapForms.push_back(map); }
   void ShowModeForm(std::optional<ModeId> mode) override { modeForms.push_back(mode); }
   void ShowHoverLabel(std::string_view text, PixelPoint at) override {

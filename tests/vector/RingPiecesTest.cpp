@@ -270,7 +270,7 @@ TEST(RingPieces, AreThoseOfTheSlowSearch) {
   for (int k = 0; k < 400; ++k) {
     const bool middles = k % 2 == 1;
     const int size = make.Whole(3, 40);
-    const Ring sound[] = {make.Star(size, 4000), make.Spiral(size),
+    const Ring sound[] = {make.Star(size, 4000), make.Spiral(size + 30),
                           make.Comb(size / 3 + 1, make.Whole(1, 100)), make.Tangle(size / 2 + 3, 8160)};
     const Ring odd[] = {make.Tangle(size / 2 + 3, 8), make.Star(size, 12), make.Scatter(size / 2 + 3, 6)};
     const double step = 1e-4 * make.Whole(1, 99);
@@ -280,7 +280,7 @@ TEST(RingPieces, AreThoseOfTheSlowSearch) {
       for (const auto& plane : {ToPlane(ring), ToPlane(ring, {47.3, 8.1}, step)}) {
         const Triangulation ours = TriangulateRing(plane), slow = SlowTriangles(plane);
         EXPECT_LE(ours.HasFault, slow.HasFault);
-        if (ours.HasFault == slow.HasFault) EXPECT_EQ(ours.Triangles, slow.Triangles);
+        EXPECT_TRUE(ours.HasFault != slow.HasFault || ours.Triangles == slow.Triangles);
       }
     };
     for (const Ring& raw : sound) {

@@ -216,13 +216,14 @@ void PolyTypeFields::ShowTex(const PolyTypeChoice& choice, std::int32_t color) {
   ShowText(*m_ui.txtV1, tex.V1);
   m_ui.ckNight->setChecked(ParseInt16(tex.Night).value_or(0) != 0);
   m_pairs = tex.Pairs;
+  m_tiedPairs.reset();
   m_ui.lbTexColor->SetColor(color);
   ColorBox(*m_ui.txtTexName, color);
   ShowBitmap();
 }
 
 void PolyTypeFields::ShowBitmap() {
-  const auto file = FindTexBitmap(m_session, m_ui.txtTexName->text().trimmed().toStdString());
+  const auto file = FindTexBitmap(m_session, BitmapName());
   QPixmap picture = file ? LoadTexBitmap(m_preview, *file) : QPixmap();
   if (picture.isNull()) picture = m_preview.LoadFromCatalog(std::string(NoBitmap));
   m_ui.imgTex->setPixmap(picture.isNull() ? picture
@@ -290,6 +291,10 @@ void PolyTypeFields::ChooseBitmap() {
     m_session.dialogs.Message(MessageKind::Error, WrongBitmapMessage());
 }
 
+std::string PolyTypeFields::BitmapName() const {
+  return m_ui.txtTexName->text().trimmed().toStdString();
+}
+
 std::optional<PolyOption> PolyTypeFields::CurrentOption() const {
   if (m_ui.optNone->isChecked()) return PolyOption::None;
   if (m_ui.optLWM->isChecked()) return PolyOption::Lwm;
@@ -322,13 +327,14 @@ PolyTypeFields::Choice PolyTypeFields::Current() const {
   choice.AssembledTexture = m_assembledText;
   choice.NamedTexture = text(m_ui.txtNameTex);
   choice.Layers = m_layers->Layers();
-  choice.Tex.Name = m_ui.txtTexName->text().trimmed().toStdString();
+  choice.Tex.Name = BitmapName();
   choice.Tex.Priority = text(m_ui.txtTexPri);
   choice.Tex.TileX = text(m_ui.txtTexTileX);
   choice.Tex.TileY = text(m_ui.txtTexTileY);
   choice.Tex.V1 = text(m_ui.txtV1);
   choice.Tex.Night = m_ui.ckNight->isChecked() ? "1" : "0";
   choice.Tex.Pairs = m_pairs;
+  choice.TiedPairs = m_tiedPairs;
   return {choice, CurrentColor()};
 }
 

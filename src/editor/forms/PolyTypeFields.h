@@ -42,6 +42,10 @@ public:
     std::int32_t Color = 0;
     bool operator==(const Choice&) const = default;
   };
+  /// The bitmap of a textured polygon, and its texture pairs as they are by now.
+  std::string BitmapName() const;
+  const std::string& Pairs() const { return m_tiedPairs ? *m_tiedPairs : m_pairs; }
+  void TiePairs(const std::string& pairs) { m_tiedPairs = pairs; }
   /// What the user chose; nothing while the controls say what they said when they were shown, so that a
   /// stored type is never rewritten by merely looking at it.
   std::optional<Choice> Changed() const;
@@ -78,7 +82,8 @@ private:
   QButtonGroup* m_options;
   std::string m_classText, m_assembledText;  ///< textures of the class and of the pre-assembled choice
   PolyLayerList* m_layers;
-  std::string m_pairs;  ///< texture coordinates of the stored type
+  std::string m_pairs;                     ///< texture coordinates of the stored type
+  std::optional<std::string> m_tiedPairs;  ///< those that the author has set here
   Choice m_shown;
   bool m_touched = false;  ///< an option was pressed, the chosen one too
 };

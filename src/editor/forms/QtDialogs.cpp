@@ -86,7 +86,9 @@ std::filesystem::path WithSuffix(const std::filesystem::path& path, std::string_
 }
 
 QWidget* QtDialogs::Owner() const {
-  QWidget* active = QApplication::activeModalWidget();
+  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+  // A form beside the canvas too: the keyboard goes back to where it came from.
+  QWidget* active = QApplication::activeWindow();
   return active ? active : m_parent.data();
 }
 

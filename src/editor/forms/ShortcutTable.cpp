@@ -27,6 +27,11 @@ std::vector<ShortcutGroup> ShortcutGroups() {
        }},
       {"Zoom", {{"Click", "Zoom in on the point"}, {"Right click", "Zoom out"}}},
       {"Map", {{"Click", "Add a map here"}}},
+      {"Fill",
+       {
+           {"Click", "Fill the block under the mouse; the grid sets its size"},
+           {"Drag", "Fill one block after the other"},
+       }},
       {"Line and Poly",
        {
            {"Click elsewhere", "Begin a figure, then add a point with each click"},

@@ -3,7 +3,6 @@
 #include "forms/Icons.h"
 #include "forms/QtText.h"
 #include "forms/StartTables.h"
-#include "forms/frmBGL.h"
 #include "forms/frmPreferences.h"
 #include "forms/frmShortcuts.h"
 #include "forms/frmStart.h"
@@ -99,10 +98,6 @@ void frmStart::BindHelpMenu() {
 
 void frmStart::ShowPreferences() {
   frmPreferences(m_session, *m_editor, this).exec();
-}
-
-void frmStart::ShowCompilation() {
-  frmBGL(m_session, m_editor->Canvas(), this).exec();
 }
 
 void frmStart::ShowShortcuts() {

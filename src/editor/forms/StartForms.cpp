@@ -1,4 +1,6 @@
 // The forms that the editor asks the main window for, and those that stand beside the canvas.
+#include "forms/frmBGL.h"
+#include "forms/frmFillsP.h"
 #include "forms/frmFind.h"
 #include "forms/frmLinesP.h"
 #include "forms/frmMapsP.h"
@@ -15,10 +17,14 @@ namespace {
 constexpr int Margin = 12;
 
 /// To the right end of the canvas: in its middle stands what a walk or a search has come to.
-void PutAside(QDialog& form, const QWidget& canvas) {
-  form.adjustSize();
+void MoveAside(QDialog& form, const QWidget& canvas) {
   const QPoint corner = canvas.mapToGlobal(QPoint(canvas.width(), 0));
   form.move(corner.x() - form.width() - Margin, corner.y() + Margin);
+}
+
+void PutAside(QDialog& form, const QWidget& canvas) {
+  form.adjustSize();
+  MoveAside(form, canvas);
 }
 
 /// Shows a form that deletes itself when it is closed.
@@ -52,6 +58,40 @@ void frmStart::ShowPolyProperties(std::optional<std::size_t> poly) {
   frmPolysP form(m_session, m_editor->Canvas(), this);
   RunProperties(form, poly, *m_editor);
   RefreshUi();
+}
+
+void frmStart::ShowFillProperties(std::size_t fill) {
+  if (fill >= m_session.project.Fills.size()) return;
+  frmFillsP form(m_session, m_editor->Canvas(), this);
+  form.ShowFill(fill);
+  form.exec();
+  RefreshUi();
+}
+
+void frmStart::ShowModeForm(std::optional<ModeId> mode) {
+  if (mode != ModeId::Fill) {
+    if (m_modeForm) m_modeForm->close();
+    return;
+  }
+  const bool isOpen = m_modeForm && m_modeForm->isVisible();
+  if (!isOpen) m_modeForm = new frmFillsP(m_session, m_editor->Canvas(), this);
+  m_modeForm->ShowPalette();
+  if (isOpen) return;
+  m_modeForm->setAttribute(Qt::WA_ShowWithoutActivating);  // the canvas keeps the keyboard
+  ShowBeside(*m_modeForm, *m_ui->canvas);
+}
+
+void frmStart::ShowCompilation() {
+  frmBGL form(m_session, m_editor->Canvas(), this);
+  connect(&form, &frmBGL::GoTo, this, [&](LatLon at) { GoToFinding(at, form); });
+  form.exec();
+}
+
+/// The selection stays as it is: it says what will be compiled.
+void frmStart::GoToFinding(LatLon at, QDialog& form) {
+  m_editor->GoTo(at);
+  const QPoint middle = m_ui->canvas->mapToGlobal(m_ui->canvas->rect().center());
+  if (form.frameGeometry().contains(middle)) MoveAside(form, *m_ui->canvas);
 }
 
 /// Search text and last hit stay from one time to the next.

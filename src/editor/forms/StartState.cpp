@@ -3,6 +3,7 @@
 #include "editor/SelectKinds.h"
 #include "forms/QtText.h"
 #include "forms/StartTables.h"
+#include "forms/frmFillsP.h"
 #include "forms/frmStart.h"
 #include "platform/Paths.h"
 #include "ui_frmStart.h"
@@ -27,6 +28,7 @@ void frmStart::RefreshUi() {
   RefreshSelectMenu();
   RefreshModes();
   CheckPointForms();
+  if (m_modeForm) m_modeForm->Check();
   m_recovery->ProjectMayBeSaved();
 }
 

@@ -1,5 +1,6 @@
 #include "forms/frmBGL.h"
 
+#include "forms/FindingList.h"
 #include "forms/FormGuard.h"
 #include "forms/QtText.h"
 #include "forms/SourceExcerpt.h"
@@ -57,6 +58,9 @@ frmBGL::frmBGL(Session& session, Display& display, const StepTable& steps, QWidg
   connect(m_ui->lstFiles, &QListWidget::currentRowChanged, this, [this](int row) {
     if (row >= 0) ShowSource(m_written[static_cast<std::size_t>(row)]);
   });
+  auto* findings = new FindingList(session.project, session.settings,
+                                   {m_ui->lbFindings, m_ui->lstFindings, m_ui->cmdGoTo}, this);
+  connect(findings, &FindingList::GoTo, this, &frmBGL::GoTo);
   EnableCompile();
 }
 

@@ -1,8 +1,10 @@
-// The compilation dialog: what has data can be ticked, Compile runs the ticked steps, and the files written
-// and their text stay to be read until the dialog is closed.
+// The compilation dialog: what has data can be ticked, the findings of a check of the selected items stand
+// below, Compile runs the ticked steps, and the files written and their text stay to be read until the dialog
+// is closed.
 #pragma once
 
 #include "compile/StepTable.h"
+#include "core/GeoTypes.h"
 #include "editor/Display.h"
 #include "editor/Session.h"
 #include "platform/Progress.h"
@@ -32,6 +34,10 @@ public:
 
   /// While a run goes on, asks it to stop; else closes.
   void reject() override;
+
+signals:
+  /// The user wants to see the place of a finding; the dialog stays.
+  void GoTo(landsmith::LatLon at);
 
 private:
   void EnableSteps();

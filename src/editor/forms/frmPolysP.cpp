@@ -7,6 +7,7 @@
 #include "forms/PathDialogs.h"
 #include "forms/QtText.h"
 #include "forms/frmLPCheck.h"
+#include "forms/frmTexPoly.h"
 #include "ui_frmPolysP.h"
 #include "vector/PolyJoin.h"
 #include "vector/PolyOperations.h"
@@ -38,6 +39,8 @@ void frmPolysP::ConnectControls() {
   run(m_ui->cmdChange, &frmPolysP::ChangeOrder);
   run(m_ui->cmdLine, &frmPolysP::MakeLineOrJoin);
   run(m_ui->cmdCheckPoly, &frmPolysP::Check);
+  connect(m_ui->imgTex, &ClickLabel::clicked, this,
+          [this] { RunGuarded(m_session.dialogs, [this] { TieBitmap(); }); });
   connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmPolysP::accept);
 }
 
@@ -46,6 +49,9 @@ void frmPolysP::SetMode(Mode mode) {
   m_ui->lbName->setEnabled(mode == Mode::One);
   m_ui->txtName->setEnabled(mode == Mode::One);
   m_ui->Frame1->setEnabled(mode == Mode::One);
+  m_ui->imgTex->SetClickable(mode == Mode::One);
+  m_ui->imgTex->setToolTip(mode == Mode::One ? tr("The bitmap. Click to tie its points to the vertices.")
+                                             : tr("The bitmap."));
   const bool hasGeometry = mode != Mode::Defaults;
   for (QWidget* part : {static_cast<QWidget*>(m_ui->lbName), static_cast<QWidget*>(m_ui->txtName),
                         static_cast<QWidget*>(m_ui->frAltitude), static_cast<QWidget*>(m_ui->Frame1),
@@ -172,6 +178,14 @@ void frmPolysP::ChangeOrder() {
   Edit edit(m_session, m_display);
   m_poly = ChangePathOrder(edit.Project().Polys, m_poly, ChosenOrder(*m_ui));
   ShowOrder();
+}
+
+// The pairs belong to the vertices of one polygon.
+void frmPolysP::TieBitmap() {
+  const PolyRec& poly = m_session.project.Polys[m_poly];
+  if (m_mode != Mode::One || poly.Points.empty()) return;
+  frmTexPoly form(m_session, poly, m_type->BitmapName(), m_type->Pairs(), this);
+  if (form.exec() == QDialog::Accepted && form.Pairs() != m_type->Pairs()) m_type->TiePairs(form.Pairs());
 }
 
 void frmPolysP::MakeLineOrJoin() {

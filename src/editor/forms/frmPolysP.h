@@ -53,6 +53,7 @@ private:
   void ChangeAltitude();
   void ChangeSlope();
   void ChangeOrder();
+  void TieBitmap();
   void MakeLineOrJoin();
   void Check();
   void StoreDefaults();

@@ -9,6 +9,7 @@
 
 #include <QHash>
 #include <QMainWindow>
+#include <QPointer>
 
 #include <filesystem>
 #include <functional>
@@ -25,6 +26,7 @@ class QTimer;
 namespace landsmith {
 
 class HintLabel;
+class frmFillsP;
 namespace Ui {
 class frmStart;
 }
@@ -50,9 +52,11 @@ public:
   void SetHint(std::string_view hint) override;
   void ShowContextMenu(const PopupTarget& target) override;
   void ShowLineProperties(std::optional<std::size_t> line) override;
+  void ShowFillProperties(std::size_t fill) override;
   void ShowMapProperties(std::size_t map) override;
   void ShowPolyProperties(std::optional<std::size_t> poly) override;
   bool ShowProjectProperties() override;
+  void ShowModeForm(std::optional<ModeId> mode) override;
   void ShowPointForm(const PopupTarget& point) override;
   void FollowPoint(const PopupTarget& point) override;
   int ToolbarHeight() const override;
@@ -83,11 +87,12 @@ private:
   void BindModes();
   void BindHelpMenu();
   void ShowPreferences();
-  void ShowCompilation();
   void ShowShortcuts();
   void ShowAbout();
 
   // StartForms.cpp: forms beside the canvas
+  void ShowCompilation();
+  void GoToFinding(LatLon at, QDialog& form);
   void ShowFind();
   void ShowGotoPosition();
   void ShowCoordinates();
@@ -114,6 +119,7 @@ private:
   std::unique_ptr<RecoveryKeeper> m_recovery;
   std::map<TimerId, QTimer*> m_timers;
   QLabel* m_mouseLabel = nullptr;
+  QPointer<frmFillsP> m_modeForm;                          ///< beside the canvas, while its mode lasts
   QDialog* m_shortcuts = nullptr;                          ///< made when it is first asked for
   std::optional<std::pair<CursorShape, double>> m_cursor;  ///< as shown, at its device pixel ratio
 };

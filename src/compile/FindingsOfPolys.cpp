@@ -1,0 +1,221 @@
+#include "compile/ItemFindings.h"
+#include "core/Grid.h"
+#include "core/Numbers.h"
+#include "core/Text.h"
+#include "vector/LineType.h"
+#include "vector/PackedText.h"
+#include "vector/PolyType.h"
+#include "vector/RingCrossing.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <optional>
+#include <variant>
+
+namespace landsmith {
+namespace {
+
+/// A ring in whole numbers and the way back to the map.
+struct WholeRing {
+  std::vector<RingVertex> Vertices;
+  LatLon Origin;                    ///< of 0, 0
+  double LatUnit = 0, LonUnit = 0;  ///< degrees a unit of Y and of X
+
+  LatLon At(const RingPlace& place) const {
+    return {Origin.lat + place.Y * LatUnit, Origin.lon + place.X * LonUnit};
+  }
+};
+
+constexpr std::int32_t PointsOfCell = CellPointMax - CellPointMin;
+
+/// On the Points of the grid, which are the same for Areas and for Cells.
+WholeRing RingOnPoints(const std::vector<PolyPoint>& points, LatLon shift) {
+  WholeRing ring{
+      {}, {90 - shift.lat, -180 - shift.lon}, -CellHeight / PointsOfCell, CellWidth / PointsOfCell};
+  ring.Vertices.reserve(points.size());
+  for (const PolyPoint& point : points) {
+    const GridPositionCell at = GridPositionToCellPoint(point.Lat + shift.lat, point.Lon + shift.lon);
+    const RingVertex vertex{at.CellX * PointsOfCell + at.PointX - CellPointMin,
+                            at.CellY * PointsOfCell + at.PointY - CellPointMin};
+    if (ring.Vertices.empty() || vertex != ring.Vertices.back()) ring.Vertices.push_back(vertex);
+  }
+  while (ring.Vertices.size() > 1 && ring.Vertices.back() == ring.Vertices.front())
+    ring.Vertices.pop_back();
+  return ring;
+}
+
+/// As it is drawn, as finely as the search for crossings can tell places apart.
+WholeRing RingAsDrawn(const std::vector<PolyPoint>& points) {
+  GeoBox box;
+  for (const PolyPoint& point : points)
+    box.Add(point.Lat, point.Lon);
+  const double half = std::max({box.NLat - box.SLat, box.ELon - box.WLon, HalfStepLat}) / 2;
+  const double unit = half / LargestRingCoordinate;
+  WholeRing ring{{}, {(box.NLat + box.SLat) / 2, (box.WLon + box.ELon) / 2}, unit, unit};
+  ring.Vertices.reserve(points.size());
+  for (const PolyPoint& point : points)
+    ring.Vertices.push_back({RoundHalfEven((point.Lon - ring.Origin.lon) / unit),
+                             RoundHalfEven((point.Lat - ring.Origin.lat) / unit)});
+  return ring;
+}
+
+void CheckShape(const WholeRing& ring, LatLon at, const char* collapsed, ItemFindings& found) {
+  if (const auto crossing = FindRingCrossing(ring.Vertices))
+    found.Warn(ring.At(*crossing), "The polygon crosses itself: what is compiled of it may have holes.");
+  else if (ring.Vertices.size() < 3 || TwiceRingArea(ring.Vertices) == 0)
+    found.Warn(at, collapsed);
+}
+
+std::string Metres(float altitude) {
+  return NumberText(altitude) + " m";
+}
+
+constexpr const char* NoAltitude = "A vertex has an altitude that is no number.";
+
+/// The compiler takes the last four characters off.
+bool IsOnlyExtension(const std::string& bitmap) {
+  constexpr std::size_t extension = 4;
+  return !bitmap.empty() && ToWindows1252(bitmap).size() <= extension;
+}
+
+bool IsPair(std::string_view text) {
+  const std::size_t comma = text.find(',');
+  return comma != std::string_view::npos && ParseInt32(text.substr(0, comma)) &&
+         ParseInt32(text.substr(comma + 1));
+}
+
+/// The first vertex whose texture coordinates cannot be read. Where there are not as many as vertices, they
+/// are made anew anyway.
+std::optional<std::size_t> UnreadablePair(std::string_view pairs, std::size_t vertices) {
+  std::optional<std::size_t> unreadable;
+  std::size_t number = 0;
+  for (; !pairs.empty(); ++number)
+    if (!IsPair(TakePackedField(pairs)) && !unreadable) unreadable = number;
+  return number == vertices ? unreadable : std::nullopt;
+}
+
+class PolyCheck {
+public:
+  PolyCheck(const PolyRec& poly, LatLon shift, ItemFindings& found)
+      : m_poly(poly), m_shift(shift), m_found(found), m_at(PlaceOf(poly.Points)) {}
+
+  void operator()(const PlainPoly&) {}
+  void operator()(const UnknownPolyType& unknown) {
+    const std::string_view head = TypeHead(unknown.Text);
+    if (head == "LWM")
+      m_found.Error(m_at, "The polygon is to be land, water or flatten, and its type names none of them.");
+    else if (head == "Other")
+      m_found.Error(m_at, "The layers that the polygon excludes cannot be read.");
+    else
+      return;
+    CheckOnPoints({});
+  }
+  void operator()(const LwmPolyType& type) {
+    CheckAltitudes(type);
+    CheckOnPoints({});
+  }
+  void operator()(const VtpPolyType& type) {
+    CheckVtpFields(type.Layer, type.Texture, m_at, m_found);
+    CheckOnPoints(m_shift);
+  }
+  void operator()(const ExclusionPolyType& type) {
+    if (LayersOfMasks(type.Masks).empty()) m_found.Warn(m_at, "The polygon excludes no layer.");
+    CheckOnPoints({});
+  }
+  void operator()(const TexPolyType& type) {
+    CheckTexFields(type);
+    if (const PolyPoint* odd = VertexWithoutAltitude()) m_found.Error(ShownAt(*odd), NoAltitude);
+    if (CheckPlaces(m_poly.Points, m_found))
+      CheckShape(RingAsDrawn(m_poly.Points), m_at, "The polygon has no area: nothing of it can be seen.",
+                 m_found);
+  }
+
+private:
+  void CheckOnPoints(LatLon shift) {
+    if (CheckPlaces(m_poly.Points, m_found))
+      CheckShape(RingOnPoints(m_poly.Points, shift), m_at,
+                 "The polygon has no area on the grid: nothing is compiled of it.", m_found);
+  }
+
+  void CheckAltitudes(const LwmPolyType& type) {
+    const auto highest = ParseFloat(type.Highest), lowest = ParseFloat(type.Lowest);
+    if (!highest || !lowest) {
+      m_found.Error(m_at, "The altitude \"" + (highest ? type.Lowest : type.Highest) + "\" is no number.");
+    } else if (*ParseNumber(type.Highest) == *ParseNumber(type.Lowest)) {
+      if (!IsLevel())
+        m_found.Warn(m_at, "The polygon is compiled level at " + Metres(*highest) +
+                               ", but its vertices have different altitudes.");
+    } else {
+      if (const PolyPoint* odd = VertexWithoutAltitude()) m_found.Warn(ShownAt(*odd), NoAltitude);
+      CheckSlope(type, Metres(*highest), Metres(*lowest));
+    }
+  }
+
+  void CheckSlope(const LwmPolyType& type, const std::string& highest, const std::string& lowest) {
+    const PolyPoint* high = VertexOf(type.HighestPoint);
+    const PolyPoint* low = VertexOf(type.LowestPoint);
+    const std::string slope = "The slope from " + highest + " to " + lowest;
+    if (!high || !low)
+      m_found.Error(m_at, slope + " is given at vertices " + type.HighestPoint + " and " + type.LowestPoint +
+                              ", but the polygon has " + std::to_string(m_poly.Points.size()) + ".");
+    else if (high->Lat == low->Lat && high->Lon == low->Lon)
+      m_found.Error(ShownAt(*high), slope + " begins and ends at one place.");
+    else if (IsLevel())
+      m_found.Warn(m_at, slope + " has all its vertices at " + Metres(high->Alt) + ".");
+    else if (high->Alt == low->Alt)
+      m_found.Warn(ShownAt(*high), slope + " begins and ends at vertices of " + Metres(high->Alt) + ".");
+  }
+
+  const PolyPoint* VertexOf(const std::string& text) const {
+    const auto number = ParseInt32(text);
+    if (!number || *number < 1 || *number > std::ssize(m_poly.Points)) return nullptr;
+    return &m_poly.Points[static_cast<std::size_t>(*number) - 1];
+  }
+
+  const PolyPoint* VertexWithoutAltitude() const {
+    const auto odd = std::find_if(m_poly.Points.begin(), m_poly.Points.end(),
+                                  [](const PolyPoint& point) { return !std::isfinite(point.Alt); });
+    return odd == m_poly.Points.end() ? nullptr : &*odd;
+  }
+
+  void CheckTexFields(const TexPolyType& type) {
+    if (IsOnlyExtension(type.Name))
+      m_found.Error(m_at, "The bitmap's name \"" + type.Name + "\" is no more than an extension.");
+    if (!ParseInt32(type.TileX) || !ParseInt32(type.TileY))
+      m_found.Error(m_at, "The bitmap is repeated \"" + type.TileX + "\" by \"" + type.TileY +
+                              "\" times, which are no whole numbers.");
+    if (!ParseInt32(type.Priority))
+      m_found.Error(m_at, "The priority \"" + type.Priority + "\" is no whole number.");
+    if (!ParseNumber(type.V1))
+      m_found.Error(m_at, "The visibility \"" + type.V1 + "\" is no number of metres.");
+    if (!ParseInt32(type.Night))
+      m_found.Error(m_at, "The mark for a night bitmap is \"" + type.Night + "\", no number.");
+    if (const auto pair = UnreadablePair(type.Pairs, m_poly.Points.size()))
+      m_found.Error(ShownAt(m_poly.Points[*pair]),
+                    "The place of vertex " + std::to_string(*pair + 1) + " on the bitmap cannot be read.");
+  }
+
+  LatLon ShownAt(const PolyPoint& vertex) const {
+    const LatLon at{vertex.Lat, vertex.Lon};
+    return IsInWorld(at) ? at : m_at;
+  }
+
+  bool IsLevel() const {
+    return std::all_of(m_poly.Points.begin(), m_poly.Points.end(),
+                       [&](const PolyPoint& point) { return point.Alt == m_poly.Points.front().Alt; });
+  }
+
+  const PolyRec& m_poly;
+  LatLon m_shift;
+  ItemFindings& m_found;
+  LatLon m_at;
+};
+
+}  // namespace
+
+void CheckItem(const PolyRec& poly, LatLon shift, ItemFindings& found) {
+  std::visit(PolyCheck(poly, shift, found), DecodePolyType(poly.Type));
+}
+
+}  // namespace landsmith
