@@ -3,6 +3,7 @@
 #include "compile/RingSpikes.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace landsmith {
 namespace {
@@ -22,13 +23,32 @@ bool IsConvex(const ConvexPart& part) {
   return true;
 }
 
+bool AreConvex(const std::vector<ConvexPart>& parts) {
+  return std::all_of(parts.begin(), parts.end(), IsConvex);
+}
+
+/// What a part that crosses itself encloses in its own direction.
+void AddTriangles(const ConvexPart& part, std::vector<ConvexPart>& out) {
+  for (std::size_t k = 1; k + 1 < part.size(); ++k)
+    if (Turn2(part[0], part[k], part[k + 1]) > 0) out.push_back({part[0], part[k], part[k + 1]});
+}
+
 }  // namespace
 
 std::vector<ConvexPart> ConvexPieces(std::span<const CellPoint> ring) {
   std::vector<ConvexPart> parts = DecomposeConvex(ring);
-  if (std::all_of(parts.begin(), parts.end(), IsConvex)) return parts;
-  const std::vector<CellPoint> clean = WithoutSpikes(ring);
-  return clean.size() == ring.size() ? parts : DecomposeConvex(clean);
+  if (AreConvex(parts)) return parts;
+  parts = DecomposeConvex(WithoutSpikes(ring));
+  if (AreConvex(parts)) return parts;
+  constexpr double lost = 1;  // Points: rounding may turn over what is narrower
+  std::vector<ConvexPart> convex;
+  for (ConvexPart& part : DecomposeConvex(WithoutSpikes(ring, lost))) {
+    if (IsConvex(part))
+      convex.push_back(std::move(part));
+    else
+      AddTriangles(part, convex);
+  }
+  return convex;
 }
 
 }  // namespace landsmith

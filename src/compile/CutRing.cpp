@@ -126,6 +126,8 @@ std::vector<CutVertex> SnapRing(const std::vector<PolyPoint>& ring, SnapForm for
     snapped.pop_back();
   if (snapped.size() < 3) return {};
   OrientPoly(snapped);
+  // A nudge can fold the ring at the vertex by which its direction is told; its area cannot be mistaken.
+  if (SignedRingArea(snapped) > 0) std::reverse(snapped.begin(), snapped.end());
   return snapped;
 }
 
