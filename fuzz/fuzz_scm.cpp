@@ -1,6 +1,5 @@
 // Any bytes as a source: parsed, checked, and compiled when they are valid.
-#include "simtools/BglWriter.h"
-#include "simtools/ScmChecker.h"
+#include "simtools/SourceBgl.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -10,7 +9,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   using namespace landsmith::simtools;
   const CheckedSource checked = CheckScm(ParseScm({reinterpret_cast<const char*>(data), size}));
   if (!checked.Errors.empty()) return 0;
-  const std::string bytes = WriteBgl(checked.Header, checked.Vtp ? VtpBlock(*checked.Vtp) : std::string());
-  if (checked.Vtp && checked.Vtp->Cells.size() * 12 > bytes.size()) std::abort();
+  const std::size_t entries = BglOf(checked).size() / 12;
+  if (checked.Vtp && checked.Vtp->Cells.size() > entries) std::abort();
+  if (checked.Lwm && checked.Lwm->Cells.size() > entries) std::abort();
   return 0;
 }

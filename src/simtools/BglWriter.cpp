@@ -3,6 +3,8 @@
 #include "core/Bytes.h"
 #include "simtools/BglLayout.h"
 
+#include <string_view>
+
 namespace landsmith::simtools {
 
 namespace {
@@ -23,9 +25,15 @@ std::uint32_t Longitude(std::int32_t degrees) {
   return static_cast<std::uint32_t>((positive + 180) / 360);
 }
 
+void WriteBlock(ByteWriter& out, std::uint32_t section, std::string_view block) {
+  if (block.empty()) return;
+  out.PatchU32(bgl::HeaderSize + section, static_cast<std::uint32_t>(out.Size()) - bgl::HeaderSize);
+  out.Bytes(block);
+}
+
 }  // namespace
 
-std::string WriteBgl(const BglHeader& header, std::string_view vtpBlock) {
+std::string WriteBgl(const BglHeader& header, const BglBlocks& blocks) {
   ByteWriter out;
   out.U16(header.World);
   out.U32(Latitude(header.North));
@@ -35,13 +43,12 @@ std::string WriteBgl(const BglHeader& header, std::string_view vtpBlock) {
   FillUpTo(out, bgl::MagicPlace);
   out.U32(bgl::Magic);
   FillUpTo(out, bgl::HeaderSize);
-  if (!vtpBlock.empty()) {
-    out.PatchU32(bgl::SectionPointer, bgl::HeaderSize);
-    out.U32(bgl::SectionTableSize);
-    FillUpTo(out, bgl::HeaderSize + bgl::SectionTableSize);
-    out.PatchU32(bgl::HeaderSize + bgl::VtpSection, bgl::SectionTableSize);
-    out.Bytes(vtpBlock);
-  }
+  if (blocks.Lwm.empty() && blocks.Vtp.empty()) return out.Take();
+  out.PatchU32(bgl::SectionPointer, bgl::HeaderSize);
+  out.U32(bgl::SectionTableSize);
+  FillUpTo(out, bgl::HeaderSize + bgl::SectionTableSize);
+  WriteBlock(out, bgl::LwmSection, blocks.Lwm);
+  WriteBlock(out, bgl::VtpSection, blocks.Vtp);
   return out.Take();
 }
 

@@ -3,17 +3,23 @@
 
 #include <cstdint>
 #include <string>
-#include <string_view>
 
 namespace landsmith::simtools {
 
 struct BglHeader {
   std::uint16_t World = 1;                                ///< first argument of the Header statement
   std::int32_t North = 0, South = 0, East = 0, West = 0;  ///< degrees
+  bool HasBounds() const { return North > South && East > West; }
   bool operator==(const BglHeader&) const = default;
 };
 
-/// The whole file. An empty `vtpBlock` gives a header that names no section.
-std::string WriteBgl(const BglHeader& header, std::string_view vtpBlock);
+/// The blocks of a file; an empty one is no section.
+struct BglBlocks {
+  std::string Lwm;
+  std::string Vtp;
+};
+
+/// The whole file. Without any block the header names no section table.
+std::string WriteBgl(const BglHeader& header, const BglBlocks& blocks);
 
 }  // namespace landsmith::simtools

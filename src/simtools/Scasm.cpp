@@ -4,8 +4,7 @@
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 #include "simtools/BglLayout.h"
-#include "simtools/BglWriter.h"
-#include "simtools/ScmChecker.h"
+#include "simtools/SourceBgl.h"
 
 #include <optional>
 #include <ostream>
@@ -72,12 +71,9 @@ int Compile(const std::string& source, const std::filesystem::path& folder, std:
   }
   const CheckedSource checked = CheckScm(ParseScm(bytes));
   if (!checked.Errors.empty()) return Refuse(log, ErrorLines(source, checked.Errors), out);
-  WriteWholeFile(bgl, WriteBgl(checked.Header, checked.Vtp ? VtpBlock(*checked.Vtp) : std::string()));
+  WriteWholeFile(bgl, BglOf(checked));
   TellHeldPoints(source, checked.HeldPoints, out);
-  if (checked.Vtp)
-    out << PathText(bgl) << ": " << checked.Vtp->Cells.size() << " cells of vector terrain\n";
-  else
-    out << PathText(bgl) << ": the header alone, this stand-in writes no section for such a source\n";
+  out << PathText(bgl) << ": " << ContentOf(checked) << "\n";
   return 0;
 }
 

@@ -1,16 +1,21 @@
 #include "simtools/ScmChecker.h"
 
 #include "core/Text.h"
+#include "simtools/LabelScope.h"
+#include "simtools/LwmChecker.h"
+#include "simtools/ObjectChecker.h"
 #include "simtools/StatementCheck.h"
 #include "simtools/VtpChecker.h"
 
 #include <algorithm>
-#include <map>
 #include <string>
 
 namespace landsmith::simtools {
 
 namespace {
+
+/// What a source is about; one file holds one kind.
+enum class Scenery { Any, Masks, VectorTerrain, Objects };
 
 /// All that is known while a source is walked through.
 struct SourceCheck {
@@ -19,9 +24,13 @@ struct SourceCheck {
   bool HasHeader = false;
   bool HasBounds = false;
   bool HasBuffer = false;
-  std::map<std::string, std::size_t> Labels;  ///< small letters, with the line
+  Scenery Subject = Scenery::Any;
+  bool IsMixed = false;
+  LabelScope Labels{Errors};
   std::vector<ScmError> HeldPoints;
+  LwmChecker Lwm{Errors};
   VtpChecker Vtp{Errors, HeldPoints};
+  ObjectChecker Objects{Header, Errors};
 
   void Fail(std::size_t line, std::string reason) { Errors.push_back({line, std::move(reason)}); }
 };
@@ -64,45 +73,88 @@ void CheckHeader(SourceCheck& check, const Statement& statement, bool complete) 
     check.Fail(statement.Line, "Header: the eastern bound is not east of the western one");
 }
 
-void CheckVtpFileHeader(SourceCheck& check, const Statement& statement, bool complete) {
-  if (!check.HasHeader) check.Fail(statement.Line, "VTPFileHeader stands in front of the Header");
+/// What stands on the Header's bounds.
+void CheckBounds(SourceCheck& check, const Statement& statement) {
+  if (!check.HasHeader) check.Fail(statement.Line, statement.Name + " stands in front of the Header");
   if (check.HasHeader && !check.HasBounds)
-    check.Fail(statement.Line, "vector terrain wants a Header with bounds");
-  check.HasHeader = true;  // a missing one is said once
-  check.Vtp.FileHeader(statement, complete);
+    check.Fail(statement.Line, statement.Name + " wants a Header with bounds");
+  check.HasHeader = check.HasBounds = true;  // said once
 }
 
 using Handler = void (*)(SourceCheck&, const Statement&, bool);
 
-template <void (VtpChecker::*Operation)(const Statement&, bool)>
-void ToVtp(SourceCheck& check, const Statement& statement, bool complete) {
-  (check.Vtp.*Operation)(statement, complete);
+/// Hands a statement to an operation of one of the checkers, which is a member of SourceCheck.
+template <auto Checker, auto Operation>
+void To(SourceCheck& check, const Statement& statement, bool complete) {
+  ((check.*Checker).*Operation)(statement, complete);
 }
+
+template <auto Checker, auto Operation>
+void ToBounded(SourceCheck& check, const Statement& statement, bool complete) {
+  CheckBounds(check, statement);
+  To<Checker, Operation>(check, statement, complete);
+}
+
+template <void (LwmChecker::*Operation)(const Statement&, bool)>
+constexpr Handler ToLwm = To<&SourceCheck::Lwm, Operation>;
+template <void (VtpChecker::*Operation)(const Statement&, bool)>
+constexpr Handler ToVtp = To<&SourceCheck::Vtp, Operation>;
+template <void (ObjectChecker::*Operation)(const Statement&, bool)>
+constexpr Handler ToObjects = To<&SourceCheck::Objects, Operation>;
 
 struct StatementKind {
   std::string_view Name;
   std::size_t LeastArguments;
   std::size_t MostArguments;
+  Scenery Subject;
   Handler Handle;
 };
 
-constexpr std::size_t AnyNumber = static_cast<std::size_t>(-1);
+constexpr std::size_t Many = static_cast<std::size_t>(-1);
+constexpr Scenery Any = Scenery::Any, Masks = Scenery::Masks, Terrain = Scenery::VectorTerrain,
+                  Objects = Scenery::Objects;
 
 /// Every statement there is: a new one is a new row.
 constexpr StatementKind Kinds[] = {
-    {"Set", 2, 2, CheckSet},
-    {"Header", 1, 5, CheckHeader},
-    {"VTPFileHeader", 0, 1, CheckVtpFileHeader},
-    {"VTPArea", 4, 4, ToVtp<&VtpChecker::Area>},
-    {"VTPLayer", 4, 4, ToVtp<&VtpChecker::Layer>},
-    {"VTPTexID", 2, 2, ToVtp<&VtpChecker::TexID>},
-    {"VTPPolyCount", 1, 1, ToVtp<&VtpChecker::PolyCount>},
-    {"VTPPoly", 3, 3, ToVtp<&VtpChecker::Poly>},
-    {"VTPWPoint", 3, 4, ToVtp<&VtpChecker::WPoint>},
-    {"VTPCPoint", 2, 3, ToVtp<&VtpChecker::CPoint>},
-    {"VTPIndexList", 1, AnyNumber, ToVtp<&VtpChecker::IndexList>},
-    {"VTPTextureList", 1, AnyNumber, ToVtp<&VtpChecker::TextureList>},
-    {"VTPEnd", 0, 0, ToVtp<&VtpChecker::End>},
+    {"Set", 2, 2, Any, CheckSet},
+    {"Header", 1, 5, Any, CheckHeader},
+
+    {"LWMFileHeader", 0, 1, Masks, ToBounded<&SourceCheck::Lwm, &LwmChecker::FileHeader>},
+    {"LWMAreaFill", 4, 5, Masks, ToLwm<&LwmChecker::AreaFill>},
+    {"macro", 5, 5, Masks, ToLwm<&LwmChecker::Macro>},
+    {"LWMAreaDrawPoly", 4, 4, Masks, ToLwm<&LwmChecker::AreaDrawPoly>},
+    {"LWMPoly", 3, Many, Masks, ToLwm<&LwmChecker::Poly>},
+    {"LWMPoly3", 4, Many, Masks, ToLwm<&LwmChecker::Poly3>},
+    {"LWMIndexList", 1, Many, Masks, ToLwm<&LwmChecker::IndexList>},
+    {"LWMEnd", 0, 0, Masks, ToLwm<&LwmChecker::End>},
+
+    {"VTPFileHeader", 0, 1, Terrain, ToBounded<&SourceCheck::Vtp, &VtpChecker::FileHeader>},
+    {"VTPArea", 4, 4, Terrain, ToVtp<&VtpChecker::Area>},
+    {"VTPLayer", 4, 4, Terrain, ToVtp<&VtpChecker::Layer>},
+    {"VTPTexID", 2, 2, Terrain, ToVtp<&VtpChecker::TexID>},
+    {"VTPPolyCount", 1, 1, Terrain, ToVtp<&VtpChecker::PolyCount>},
+    {"VTPPoly", 3, 3, Terrain, ToVtp<&VtpChecker::Poly>},
+    {"VTPWPoint", 3, 4, Terrain, ToVtp<&VtpChecker::WPoint>},
+    {"VTPCPoint", 2, 3, Terrain, ToVtp<&VtpChecker::CPoint>},
+    {"VTPPointXY", 2, 2, Terrain, ToVtp<&VtpChecker::PointXY>},
+    {"VTPIndexList", 1, Many, Terrain, ToVtp<&VtpChecker::IndexList>},
+    {"VTPTextureList", 1, Many, Terrain, ToVtp<&VtpChecker::TextureList>},
+    {"VTPEnd", 0, 0, Terrain, ToVtp<&VtpChecker::End>},
+
+    {"LatRange", 2, 2, Objects, ToBounded<&SourceCheck::Objects, &ObjectChecker::LatRange>},
+    {"Area", 4, 4, Objects, ToBounded<&SourceCheck::Objects, &ObjectChecker::Area>},
+    {"LayerCall", 2, 2, Objects, ToObjects<&ObjectChecker::LayerCall>},
+    {"Jump", 1, 1, Objects, ToObjects<&ObjectChecker::Jump>},
+    {"RefPoint", 11, 11, Objects, ToObjects<&ObjectChecker::RefPoint>},
+    {"BGLVersion", 1, 1, Objects, ToObjects<&ObjectChecker::Version>},
+    {"TextureList", 1, Many, Objects, ToObjects<&ObjectChecker::TextureList>},
+    {"MaterialList", 1, Many, Objects, ToObjects<&ObjectChecker::MaterialList>},
+    {"VertexList", 1, Many, Objects, ToObjects<&ObjectChecker::VertexList>},
+    {"SetMaterial", 2, 2, Objects, ToObjects<&ObjectChecker::SetMaterial>},
+    {"DrawTriList", 1, Many, Objects, ToObjects<&ObjectChecker::DrawTriList>},
+    {"EndVersion", 0, 0, Objects, ToObjects<&ObjectChecker::EndVersion>},
+    {"Return", 0, 0, Objects, ToObjects<&ObjectChecker::Return>},
+    {"EndA", 0, 0, Objects, ToObjects<&ObjectChecker::EndA>},
 };
 
 const StatementKind* FindKind(std::string_view name) {
@@ -116,7 +168,7 @@ bool ArgumentsFit(SourceCheck& check, const StatementKind& kind, const Statement
   const std::size_t given = statement.Arguments.size();
   if (given >= kind.LeastArguments && given <= kind.MostArguments) return true;
   std::string wanted = std::to_string(kind.LeastArguments);
-  if (kind.MostArguments == AnyNumber)
+  if (kind.MostArguments == Many)
     wanted += " or more";
   else if (kind.MostArguments != kind.LeastArguments)
     wanted += " to " + std::to_string(kind.MostArguments);
@@ -126,11 +178,26 @@ bool ArgumentsFit(SourceCheck& check, const StatementKind& kind, const Statement
 }
 
 void CheckLabel(SourceCheck& check, const Statement& statement) {
-  const auto [place, isNew] = check.Labels.try_emplace(ToLower(statement.Name), statement.Line);
-  if (!isNew)
-    check.Fail(statement.Line, "the label " + statement.Name + " is used in line " +
-                                   std::to_string(place->second) + " already");
-  check.Vtp.Label(statement);
+  if (check.Objects.InArea()) {
+    check.Objects.Label(statement);
+    return;
+  }
+  check.Labels.Define(statement);
+  if (check.Subject == Scenery::Masks) check.Lwm.Label(statement);
+  if (check.Subject == Scenery::VectorTerrain) check.Vtp.Label(statement);
+}
+
+/// False for a statement of another kind of scenery than those before it, which is said once.
+bool FitsSubject(SourceCheck& check, const StatementKind& kind, const Statement& statement) {
+  if (kind.Subject == Scenery::Any || kind.Subject == check.Subject) return true;
+  if (check.Subject == Scenery::Any) {
+    check.Subject = kind.Subject;
+    return true;
+  }
+  if (!check.IsMixed)
+    check.Fail(statement.Line, statement.Name + " belongs to another kind of scenery than what stands above");
+  check.IsMixed = true;
+  return false;
 }
 
 void CheckStatement(SourceCheck& check, const Statement& statement) {
@@ -141,7 +208,7 @@ void CheckStatement(SourceCheck& check, const Statement& statement) {
   const StatementKind* kind = FindKind(statement.Name);
   if (kind == nullptr)
     check.Fail(statement.Line, "the statement " + statement.Name + " is not known");
-  else
+  else if (FitsSubject(check, *kind, statement))
     kind->Handle(check, statement, ArgumentsFit(check, *kind, statement));
 }
 
@@ -154,11 +221,15 @@ CheckedSource CheckScm(const ScmSource& source) {
     CheckStatement(check, statement);
   const std::size_t lastLine = source.Statements.empty() ? 1 : source.Statements.back().Line;
   if (!check.HasHeader) check.Fail(lastLine, "there is no Header");
-  if (!check.Vtp.IsUnused()) check.Vtp.Finish(lastLine);
+  if (check.Subject == Scenery::Masks) check.Lwm.Finish(lastLine);
+  if (check.Subject == Scenery::VectorTerrain) check.Vtp.Finish(lastLine);
+  check.Objects.Finish();
 
   CheckedSource checked;
   checked.Header = check.Header;
-  if (!check.Vtp.IsUnused()) checked.Vtp = check.Vtp.File();
+  if (check.Subject == Scenery::Masks) checked.Lwm = check.Lwm.File();
+  if (check.Subject == Scenery::VectorTerrain) checked.Vtp = check.Vtp.File();
+  checked.TexturedAreas = check.Objects.TexturedAreas();
   std::stable_sort(check.Errors.begin(), check.Errors.end(),
                    [](const ScmError& a, const ScmError& b) { return a.Line < b.Line; });
   checked.Errors = std::move(check.Errors);

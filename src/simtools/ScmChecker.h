@@ -2,6 +2,7 @@
 #pragma once
 
 #include "simtools/BglWriter.h"
+#include "simtools/LwmBgl.h"
 #include "simtools/ScmParser.h"
 #include "simtools/VtpBgl.h"
 
@@ -12,7 +13,9 @@ namespace landsmith::simtools {
 
 struct CheckedSource {
   BglHeader Header;
-  std::optional<VtpFile> Vtp;    ///< the vector terrain of the source, if it has any
+  std::optional<LwmFile> Lwm;     ///< the masks of the source, if it has any
+  std::optional<VtpFile> Vtp;     ///< its vector terrain
+  std::size_t TexturedAreas = 0;  ///< its textured polygons, of which nothing is kept
   std::vector<ScmError> Errors;  ///< by line, those of the parser included; the rest counts without any alone
   std::vector<ScmError> HeldPoints;  ///< by line: points that the file holds in another place than they say
 };

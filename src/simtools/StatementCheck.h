@@ -28,4 +28,18 @@ std::optional<std::int64_t> NumberArgument(const Statement& statement, std::size
 bool FixedArgument(const Statement& statement, std::size_t index, std::string_view what, std::int64_t value,
                    std::vector<ScmError>& errors);
 
+struct RealRange {
+  std::string_view What;
+  double Least = 0;
+  double Most = 0;
+};
+
+/// As NumberArgument, for a number that may have a fraction and an exponent.
+std::optional<double> RealArgument(const Statement& statement, std::size_t index, const RealRange& range,
+                                   std::vector<ScmError>& errors);
+
+/// Argument `index` must be `word`, capital or small letters alike.
+void WordArgument(const Statement& statement, std::size_t index, std::string_view word,
+                  std::vector<ScmError>& errors);
+
 }  // namespace landsmith::simtools

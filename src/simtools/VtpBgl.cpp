@@ -3,6 +3,8 @@
 #include "core/Bytes.h"
 #include "simtools/BglLayout.h"
 
+#include <algorithm>
+
 namespace landsmith::simtools {
 
 namespace {
@@ -40,12 +42,18 @@ void WriteFeature(ByteWriter& out, const VtpFeature& feature) {
   const bool escape = points >= bgl::PointsEscape;
   out.U8(LowByte((escape ? bgl::PointsEscape : points) | feature.Kind << 5U));
   if (escape) out.U16(static_cast<std::uint16_t>(points - bgl::PointsEscape));
-  for (const VtpPoint& point : feature.Points)
-    WritePoint(out, point);
+  for (const VtpPoint& point : feature.Points) {
+    if (feature.Kind == bgl::LineFeature) {
+      WritePoint(out, point);
+    } else {
+      out.U16(static_cast<std::uint16_t>(point.X));
+      out.U16(static_cast<std::uint16_t>(point.Y));
+    }
+  }
 }
 
 void WriteLayer(ByteWriter& out, const VtpLayer& layer) {
-  out.U8(LowByte(layer.Layer | (layer.Replace ? 64U : 0U)));
+  out.U8(LowByte((layer.Layer & 63U) | (layer.Replace ? 64U : 0U) | (layer.Layer & 64U) << 1U));
   WriteCount(out, layer.Textures.size());
   for (const VtpTextureUse& texture : layer.Textures) {
     WriteCount(out, texture.TexId);
@@ -56,10 +64,15 @@ void WriteLayer(ByteWriter& out, const VtpLayer& layer) {
 }
 
 void WriteArea(ByteWriter& out, const VtpArea& area) {
-  const auto layers = static_cast<std::uint32_t>(area.Layers.size());
-  out.U16(static_cast<std::uint16_t>(layers | (area.WholeCell ? 32U : 0U) | area.X << 6U | area.Y << 11U));
-  for (const VtpLayer& layer : area.Layers)
-    WriteLayer(out, layer);
+  const std::size_t layers = area.Layers.size();
+  std::size_t next = 0;
+  do {
+    const std::size_t end = std::min<std::size_t>(layers, next + bgl::MostLayers);
+    out.U16(static_cast<std::uint16_t>((end - next) | (area.WholeCell ? 32U : 0U) | area.X << 6U |
+                                       area.Y << 11U));
+    for (; next < end; ++next)
+      WriteLayer(out, area.Layers[next]);
+  } while (next < layers);
 }
 
 void WriteListHead(ByteWriter& out, std::size_t entries, std::size_t entrySize) {
@@ -118,10 +131,10 @@ std::string TextureList(const std::vector<VtpTextureEntry>& textures) {
 std::string VtpBlock(const VtpFile& file) {
   const std::string cells = CellList(file.Cells);
   ByteWriter out;
-  out.U32(bgl::VtpBlockSize);
+  out.U32(bgl::BlockSize);
   out.U32(file.Format);
-  out.U32(bgl::VtpBlockSize);
-  out.U32(static_cast<std::uint32_t>(bgl::VtpBlockSize + cells.size()));
+  out.U32(bgl::BlockSize);
+  out.U32(static_cast<std::uint32_t>(bgl::BlockSize + cells.size()));
   out.U32(0);
   out.Bytes(cells);
   out.Bytes(TextureList(file.Textures));

@@ -16,8 +16,8 @@ struct VtpPoint {
 };
 
 struct VtpFeature {
-  std::uint32_t Kind = 1;  ///< 1: a line
-  std::vector<VtpPoint> Points;
+  std::uint32_t Kind = 1;        ///< 0: a polygon, 1: a line
+  std::vector<VtpPoint> Points;  ///< of a polygon, places alone
   bool operator==(const VtpFeature&) const = default;
 };
 

@@ -6,7 +6,8 @@
 // compares what was announced with what came.
 #pragma once
 
-#include "simtools/ScmParser.h"
+#include "simtools/FileOrder.h"
+#include "simtools/IndexList.h"
 #include "simtools/VtpBgl.h"
 
 #include <cstdint>
@@ -20,7 +21,9 @@ class VtpChecker {
 public:
   /// `heldPoints` takes a line for each point that BglLayout.h cannot hold where it says.
   VtpChecker(std::vector<ScmError>& errors, std::vector<ScmError>& heldPoints)
-      : m_errors(errors), m_heldPoints(heldPoints) {}
+      : m_errors(errors),
+        m_heldPoints(heldPoints),
+        m_order({"VTPFileHeader", "VTPIndexList", "VTPTextureList", "VTPEnd"}, errors) {}
 
   /// One operation a statement. `complete`: the number of arguments is right; otherwise the statement only
   /// takes its place among the blocks.
@@ -32,20 +35,18 @@ public:
   void PolyCount(const Statement& statement, bool complete);
   void Poly(const Statement& statement, bool complete);
   void WPoint(const Statement& statement, bool complete);
+  void PointXY(const Statement& statement, bool complete);
   void CPoint(const Statement& statement, bool complete);
   void IndexList(const Statement& statement, bool complete);
   void TextureList(const Statement& statement, bool complete);
   void End(const Statement& statement, bool complete);
 
-  /// Nothing of the kind was seen yet.
-  bool IsUnused() const { return m_stage == Stage::Start; }
   /// Reports what is missing at the end of the source, whose last line is `line`.
   void Finish(std::size_t line);
   /// What the statements said; of use only when there was no error.
   const VtpFile& File() const { return m_file; }
 
 private:
-  enum class Stage { Start, Cells, AfterIndex, AfterTextures, Ended };
   enum class Block { File, Cell, Area, Layer, Texture, Poly, Place, Step };
 
   struct OpenBlock {
@@ -62,21 +63,23 @@ private:
   };
 
   void Fail(std::size_t line, std::string reason) { m_errors.push_back({line, std::move(reason)}); }
-  bool AdvanceTo(Stage stage, const Statement& statement);
   OpenBlock& Open(Block kind, const Statement& statement);
   void CloseDownTo(Block kind);
   void Close(const OpenBlock& block);
   void CheckCount(const OpenBlock& block);
   void CheckCellAreas(const OpenBlock& block);
+  void CheckLayers(const OpenBlock& block);
+  void CheckIndexEntry(const Statement& statement, std::size_t entry, const CellPlace& place);
+  OpenBlock& OpenPlace(const Statement& statement, std::uint32_t kind);
   void SetPlace(VtpPoint& point, const Statement& statement);
-  void CheckIndexEntry(const Statement& statement, std::size_t entry);
 
   std::vector<ScmError>& m_errors;
   std::vector<ScmError>& m_heldPoints;
-  Stage m_stage = Stage::Start;
+  FileOrder m_order;
   std::vector<OpenBlock> m_open;
   std::vector<TextureReference> m_references;
   bool m_hasPolyCount = false;
+  std::optional<std::int64_t> m_polyKind;  ///< of the open poly; nothing: it was not readable
 
   // What is inside the open blocks, one a depth; closing a block hands it to the one around it.
   VtpFile m_file;

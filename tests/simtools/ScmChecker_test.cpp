@@ -46,7 +46,7 @@ const FaultRow FaultRows[] = {
     {"area beyond 31", "1 1 17 24", "1 1 17 32", 9, "y is 32", 2},
     {"layer beyond 6 bits", "( 13 1 1 0", "( 64 1 1 0", 10, "the layer is 64"},
     {"replace flag", "( 13 1 1 0", "( 13 2 1 0", 10, "the replace flag is 2"},
-    {"kind of poly", "( 2 4 1 )", "( 2 4 0 )", 15, "the kind is 0, it must be 1"},
+    {"kind of poly", "( 2 4 1 )", "( 2 4 2 )", 15, "the kind is 2, allowed is 0 to 1"},
     {"texture that is not listed", "VTPTexID( 0 0", "VTPTexID( 1 0", 11, "there is no texture 1"},
     {"latitude beyond the pole", "1 48 47", "1 92 47", 3, "the northern bound is 92"},
     {"bounds the wrong way", "1 48 47 9 8", "1 48 47 8 9", 3, "not east of"},

@@ -2,8 +2,7 @@
 
 #include "Sources.h"
 #include "core/Text.h"
-#include "simtools/BglWriter.h"
-#include "simtools/ScmChecker.h"
+#include "simtools/SourceBgl.h"
 #include "support/BglReaders.h"
 
 #include <gtest/gtest.h>
@@ -24,7 +23,7 @@ VtpFileRead CompileAndRead(const std::string& source) {
   for (const ScmError& error : checked.Errors)
     ADD_FAILURE() << "line " << error.Line << ": " << error.Reason;
   if (!checked.Vtp) throw std::runtime_error("no vector terrain");
-  return landsmith::test::ReadVtpFile(WriteBgl(checked.Header, VtpBlock(*checked.Vtp)));
+  return landsmith::test::ReadVtpFile(BglOf(checked));
 }
 
 TEST(VtpBgl, GivesBackCellsLayersTexturesAndPoints) {
