@@ -13,6 +13,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <compare>
 #include <filesystem>
 #include <ostream>
@@ -40,12 +41,17 @@ std::vector<SamePiece> Sorted(std::vector<SamePiece> pieces) {
   return pieces;
 }
 
+/// As the file holds it.
+double InPartsOf128(double altitude) {
+  return std::round(altitude * 128) / 128;
+}
+
 std::vector<SamePiece> FromText(const std::vector<ReadPiece>& pieces) {
   std::vector<SamePiece> same;
   for (const ReadPiece& piece : pieces) {
     const double lowest = piece.Heights.empty() ? piece.Alt1 : piece.Alt2;
-    same.push_back(
-        {piece.SquareX, piece.SquareY, piece.Kind, piece.Alt1, lowest, piece.Points, piece.Heights});
+    same.push_back({piece.SquareX, piece.SquareY, piece.Kind, InPartsOf128(piece.Alt1), InPartsOf128(lowest),
+                    piece.Points, piece.Heights});
   }
   return Sorted(same);
 }
