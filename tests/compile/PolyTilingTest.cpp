@@ -217,9 +217,9 @@ TEST(TheJudge, SeesEachDamage) {
        [&](auto& all) {
          withCorner(all).Points = {{0, 0}, {255, 0}, {255, 255}, {0, 255}};
        }},
-      {"a piece along a side", [](auto& all) {
+      {"a piece of two points", [](auto& all) {
          all.push_back(all[0]);
-         all.back().Points = {{0, 10}, {0, 12}, {0, 30}};
+         all.back().Points = {{0, 10}, {0, 12}, {0, 10}};
        }}};
   for (const DamageRow& row : rows) {
     auto damaged = pieces;
