@@ -8,12 +8,15 @@
 namespace landsmith {
 namespace {
 
+/// A part without area counts as convex: vertices in line can be cut off so.
 bool IsConvex(const ConvexPart& part) {
   ConvexPart way = part;  // a repeated point makes two turns of nothing out of a dent
   way.erase(std::unique(way.begin(), way.end()), way.end());
   while (way.size() > 1 && way.front() == way.back())
     way.pop_back();
   const std::size_t count = way.size();
+  const auto isInLine = [&](const CellPoint& point) { return Turn2(way.front(), way[1], point) == 0; };
+  if (count < 3 || std::all_of(way.begin(), way.end(), isInLine)) return true;
   for (std::size_t k = 0; k < count; ++k) {
     const CellPoint& before = way[k];
     const CellPoint& at = way[(k + 1) % count];
