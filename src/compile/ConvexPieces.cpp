@@ -3,6 +3,9 @@
 #include "compile/RingSpikes.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
 #include <utility>
 
 namespace landsmith {
@@ -30,10 +33,87 @@ bool AreConvex(const std::vector<ConvexPart>& parts) {
   return std::all_of(parts.begin(), parts.end(), IsConvex);
 }
 
-/// What a part that crosses itself encloses in its own direction.
-void AddTriangles(const ConvexPart& part, std::vector<ConvexPart>& out) {
-  for (std::size_t k = 1; k + 1 < part.size(); ++k)
-    if (Turn2(part[0], part[k], part[k + 1]) > 0) out.push_back({part[0], part[k], part[k + 1]});
+bool LiesOn(const CellPoint& point, const CellPoint& from, const CellPoint& to) {
+  return Turn2(from, point, to) == 0 && std::min(from.X, to.X) <= point.X &&
+         point.X <= std::max(from.X, to.X) && std::min(from.Y, to.Y) <= point.Y &&
+         point.Y <= std::max(from.Y, to.Y);
+}
+
+using CellRing = std::vector<CellPoint>;
+
+std::int64_t Area2(const CellRing& ring) {
+  std::int64_t area = 0;
+  for (std::size_t k = 2; k < ring.size(); ++k)
+    area += Turn2(ring[0], ring[k - 1], ring[k]);
+  return area;
+}
+
+/// Two rings out of one whose vertex `i` touches the edge behind vertex `j`.
+std::pair<CellRing, CellRing> SplitAt(const CellRing& ring, std::size_t i, std::size_t j) {
+  std::pair<CellRing, CellRing> halves;
+  const std::size_t count = ring.size();
+  for (std::size_t k = i; k != (j + 1) % count; k = (k + 1) % count)
+    halves.first.push_back(ring[k]);
+  halves.second.push_back(ring[i]);
+  for (std::size_t k = (j + 1) % count; k != i; k = (k + 1) % count)
+    halves.second.push_back(ring[k]);
+  return halves;
+}
+
+/// The first place where the ring touches itself so that both sides of it are rings of its direction; around
+/// a hole they are not.
+std::optional<std::pair<CellRing, CellRing>> SplitWhereItTouches(const CellRing& ring) {
+  const std::size_t count = ring.size();
+  for (std::size_t i = 0; i < count; ++i) {
+    for (std::size_t j = 0; j < count; ++j) {
+      const std::size_t next = (j + 1) % count;
+      if (j == i || next == i || !LiesOn(ring[i], ring[j], ring[next])) continue;
+      auto halves = SplitAt(ring, i, j);
+      if (Area2(halves.first) > 0 && Area2(halves.second) > 0) return halves;
+    }
+  }
+  return std::nullopt;
+}
+
+/// Every vertex meets every edge here, so long rings stay as they are.
+std::vector<CellRing> SimpleRings(CellRing ring) {
+  constexpr std::size_t longest = 2000;
+  std::vector<CellRing> simple;
+  std::vector<CellRing> waiting{std::move(ring)};
+  while (!waiting.empty()) {
+    CellRing next = std::move(waiting.back());
+    waiting.pop_back();
+    auto halves = next.size() <= longest ? SplitWhereItTouches(next) : std::nullopt;
+    if (!halves) {
+      simple.push_back(std::move(next));
+      continue;
+    }
+    waiting.push_back(std::move(halves->second));
+    waiting.push_back(std::move(halves->first));
+  }
+  return simple;
+}
+
+std::vector<ConvexPart> PartsWithoutSpikes(std::span<const CellPoint> ring, double width) {
+  std::vector<ConvexPart> parts;
+  for (const CellRing& simple : SimpleRings(WithoutSpikes(ring, width)))
+    for (ConvexPart& part : DecomposeConvex(simple))
+      parts.push_back(std::move(part));
+  return parts;
+}
+
+/// Of a part that crosses itself, what it encloses in its own direction.
+std::vector<ConvexPart> TrianglesInPlaceOf(std::vector<ConvexPart> parts) {
+  std::vector<ConvexPart> convex;
+  for (ConvexPart& part : parts) {
+    if (IsConvex(part)) {
+      convex.push_back(std::move(part));
+      continue;
+    }
+    for (std::size_t k = 1; k + 1 < part.size(); ++k)
+      if (Turn2(part[0], part[k], part[k + 1]) > 0) convex.push_back({part[0], part[k], part[k + 1]});
+  }
+  return convex;
 }
 
 }  // namespace
@@ -41,17 +121,11 @@ void AddTriangles(const ConvexPart& part, std::vector<ConvexPart>& out) {
 std::vector<ConvexPart> ConvexPieces(std::span<const CellPoint> ring) {
   std::vector<ConvexPart> parts = DecomposeConvex(ring);
   if (AreConvex(parts)) return parts;
-  parts = DecomposeConvex(WithoutSpikes(ring));
-  if (AreConvex(parts)) return parts;
-  constexpr double lost = 1;  // Points: rounding may turn over what is narrower
-  std::vector<ConvexPart> convex;
-  for (ConvexPart& part : DecomposeConvex(WithoutSpikes(ring, lost))) {
-    if (IsConvex(part))
-      convex.push_back(std::move(part));
-    else
-      AddTriangles(part, convex);
+  for (const double width : {0.0, 0.25, 0.5, 1.0}) {  // Points: rounding may turn over what is so narrow
+    parts = PartsWithoutSpikes(ring, width);
+    if (AreConvex(parts)) return parts;
   }
-  return convex;
+  return TrianglesInPlaceOf(PartsWithoutSpikes(ring, 0));
 }
 
 }  // namespace landsmith
