@@ -33,7 +33,8 @@ public:
   Clipper(const GridRules& rules, const AltitudePlane* slope) : m_rules(rules), m_slope(slope) {}
 
   ClippedPoly Clip(const std::vector<CutVertex>& snapped) {
-    m_placed = PlaceInSquares(CutAlongLines(snapped, LinesOf(m_rules.Grid)), m_rules.Grid);
+    m_placed =
+        PlaceInSquares(CutAlongLines(snapped, LinesOf(m_rules.Grid), CornerCuts::MoveOff), m_rules.Grid);
     m_clipped.Squares = m_placed.Squares.size();
     m_clipped.Pieces.reserve(m_placed.Squares.size() + 1);
     m_clipped.Points.reserve(m_placed.Points.size() + m_placed.Squares.size() * 4);
