@@ -131,9 +131,13 @@ private:
     m_clipped.Pieces.push_back(piece);
   }
 
-  static bool HasThreePoints(const ClosedRing& ring) {
-    const auto differs = [](const WalkedPoint& from) {
-      return [&from](const WalkedPoint& point) { return point.X != from.X || point.Y != from.Y; };
+  /// As they are written: a corner that lies outside is another point than a cut on it.
+  bool HasThreePoints(const ClosedRing& ring) const {
+    const auto differs = [this](const WalkedPoint& from) {
+      return [this, &from](const WalkedPoint& point) {
+        return point.X != from.X || point.Y != from.Y ||
+               (m_rules.Overhang > 0 && (point.Corner < 0) != (from.Corner < 0));
+      };
     };
     if (ring.size() < 3) return false;
     const auto second = std::find_if(ring.begin(), ring.end(), differs(ring.front()));
