@@ -1,4 +1,5 @@
 #include "compile/ItemFindings.h"
+#include "compile/PolyClip.h"
 #include "core/Grid.h"
 #include "core/Numbers.h"
 #include "core/Text.h"
@@ -82,6 +83,19 @@ bool IsTakenAsWritten(std::string_view field, std::int32_t largest) {
   return number && *number <= largest && digits.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
+/// What the statements of a mask take: points of one piece, metres.
+constexpr std::size_t MostMaskPoints = 318;
+constexpr float LowestMaskAltitude = -32768, MaskAltitudesEnd = 32768;
+
+bool IsMaskAltitude(float metres) {
+  return metres >= LowestMaskAltitude && metres < MaskAltitudesEnd;
+}
+
+/// In one Area a ring that does not cross itself has its own vertices, two cuts an edge and four corners.
+bool MayHaveLargePiece(std::size_t vertices) {
+  return 3 * vertices + 4 > MostMaskPoints;
+}
+
 constexpr const char* NoAltitude = "A vertex has an altitude that is no number.";
 
 /// The compiler takes the last four characters off.
@@ -124,7 +138,7 @@ public:
   }
   void operator()(const LwmPolyType& type) {
     CheckAltitudes(type);
-    CheckOnPoints({});
+    if (CheckOnPoints({})) CheckPieces();
   }
   void operator()(const VtpPolyType& type) {
     CheckVtpFields(type.Layer, type.Texture, m_at, m_found);
@@ -143,16 +157,36 @@ public:
   }
 
 private:
-  void CheckOnPoints(LatLon shift) {
-    if (CheckPlaces(m_poly.Points, m_found))
-      CheckShape(RingOnPoints(m_poly.Points, shift), m_at,
-                 "The polygon has no area on the grid: it covers no ground.", m_found);
+  /// Whether the vertices have Points at all.
+  bool CheckOnPoints(LatLon shift) {
+    if (!CheckPlaces(m_poly.Points, m_found)) return false;
+    CheckShape(RingOnPoints(m_poly.Points, shift), m_at,
+               "The polygon has no area on the grid: it covers no ground.", m_found);
+    return true;
+  }
+
+  void CheckPieces() {
+    if (!MayHaveLargePiece(m_poly.Points.size())) return;
+    const ClippedPoly cut = ClipPolyToAreas(m_poly.Points, nullptr);
+    const auto largest =
+        std::max_element(cut.Pieces.begin(), cut.Pieces.end(),
+                         [](const PolyPiece& a, const PolyPiece& b) { return a.Count < b.Count; });
+    if (largest == cut.Pieces.end() || largest->Count <= MostMaskPoints) return;
+    const PiecePoint& first = cut.PointsOf(*largest).front();
+    m_found.Error(PointInAreaToLatLon(
+                      {first.X, first.Y, largest->AreaX, largest->AreaY, largest->CellX, largest->CellY}),
+                  "The polygon has " + std::to_string(largest->Count) +
+                      " points in one Area, where the tool takes " + std::to_string(MostMaskPoints) +
+                      ": simplify it there or split it.");
   }
 
   void CheckAltitudes(const LwmPolyType& type) {
     const auto highest = ParseFloat(type.Highest), lowest = ParseFloat(type.Lowest);
     if (!highest || !lowest) {
       m_found.Error(m_at, "The altitude \"" + (highest ? type.Lowest : type.Highest) + "\" is no number.");
+    } else if (!IsMaskAltitude(*highest) || !IsMaskAltitude(*lowest)) {
+      m_found.Error(m_at, "The altitude " + Metres(IsMaskAltitude(*highest) ? *lowest : *highest) +
+                              " is farther from sea level than the tool takes.");
     } else if (*ParseNumber(type.Highest) == *ParseNumber(type.Lowest)) {
       if (!IsLevel())
         m_found.Warn(m_at, "The polygon is compiled level at " + Metres(*highest) +
