@@ -107,7 +107,9 @@ void FindingList::ShowSummary() {
 
 void FindingList::GoToCurrent() {
   const int row = m_controls.list->indexOfTopLevelItem(m_controls.list->currentItem());
-  if (row >= 0) emit GoTo(m_findings[static_cast<std::size_t>(row)].At);
+  if (row < 0) return;
+  emit GoTo(m_findings[static_cast<std::size_t>(row)]);
+  m_controls.list->setFocus();  // the next one is an arrow key away
 }
 
 }  // namespace landsmith
