@@ -16,7 +16,7 @@ namespace {
 
 constexpr int MillisecondsAtOnce = 30;
 /// Longer names of items are cut off, for the findings' sake.
-constexpr int MostTitleLetters = 22;
+constexpr int MostTitleLetters = 27;
 
 QString ItemTitle(const ProjectState& project, const Finding& finding) {
   const bool isLine = finding.Kind == LineFinding;
