@@ -146,7 +146,7 @@ private:
   void CheckOnPoints(LatLon shift) {
     if (CheckPlaces(m_poly.Points, m_found))
       CheckShape(RingOnPoints(m_poly.Points, shift), m_at,
-                 "The polygon has no area on the grid: nothing is compiled of it.", m_found);
+                 "The polygon has no area on the grid: it covers no ground.", m_found);
   }
 
   void CheckAltitudes(const LwmPolyType& type) {
