@@ -10,7 +10,6 @@
 namespace landsmith {
 namespace {
 
-constexpr std::int32_t AreasPerCell = 32;
 /// That one polygon may cover. So many Areas are 60 by 60 Cells, half a continent and a gigabyte of text.
 constexpr std::size_t MostSquares = 4'000'000;
 
