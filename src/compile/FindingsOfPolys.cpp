@@ -275,7 +275,8 @@ private:
 
 void CheckMaskAltitude(double altitude, LatLon at, ItemFindings& found) {
   if (altitude >= LowestMaskAltitude && altitude <= HighestMaskAltitude) return;
-  found.Error(at, "The altitude " + NumberText(altitude) + " m is not from -32768 to 32767 m.");
+  found.Error(
+      at, "The altitude " + NumberText(static_cast<float>(altitude)) + " m is not from -32768 to 32767 m.");
 }
 
 void CheckItem(const PolyRec& poly, LatLon shift, ItemFindings& found) {
