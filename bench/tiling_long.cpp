@@ -60,6 +60,7 @@ void PrintFailure(const Judge& judge, std::uint64_t seed, const RandomPoly& poly
     std::printf("  %s\n", fault.c_str());
   for (const PolyPoint& at : least)
     std::printf("  %.17g, %.17g\n", at.Lat, at.Lon);
+  std::fflush(stdout);
 }
 
 constexpr int MostPrinted = 100;
@@ -92,6 +93,7 @@ int Run(const char* name, std::int64_t unit, const Judge& judge, std::uint64_t f
   for (std::size_t kind = 0; kind < ofKind.size(); ++kind)
     if (failedOfKind[kind] > 0)
       std::printf("  kind %zu: %d of %d failed\n", kind, failedOfKind[kind], ofKind[kind]);
+  std::fflush(stdout);
   return failures;
 }
 

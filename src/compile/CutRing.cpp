@@ -48,7 +48,7 @@ struct Axis {
   double CutVertex::*Across;
   double CutVertex::*Along;
   double Spacing, Nudge;           ///< of the lines
-  double CrossSpacing, OffCorner;  ///< of the lines that these meet, and where to move off one of them
+  double CrossSpacing, OffCorner;  ///< of the lines that these meet, and how far to move off one of them
   CutMark Leaves, EntersNext;
 };
 
@@ -131,7 +131,9 @@ std::vector<CutVertex> SnapRing(const std::vector<PolyPoint>& ring, SnapForm for
   return snapped;
 }
 
-std::vector<CutVertex> CutAlongLines(const std::vector<CutVertex>& ring, const GridLines& lines) {
+std::vector<CutVertex> CutAlongLines(const std::vector<CutVertex>& ring, const GridLines& lines,
+                                     CornerCuts corners) {
+  const bool moveOff = corners == CornerCuts::MoveOff;
   if (CountCrossings(ring, lines) > MostCrossings)
     throw RuntimeError::At("cutting a polygon", "", "",
                            "its edges cross more than " + NumberText(MostCrossings) + " lines of the grid");
@@ -140,7 +142,7 @@ std::vector<CutVertex> CutAlongLines(const std::vector<CutVertex>& ring, const G
                        lines.Height,
                        NudgeLat,
                        lines.Width,
-                       NudgeLon,
+                       moveOff ? NudgeLon : 0,
                        CutMark::LeavesOverParallel,
                        CutMark::EntersOverParallel};
   const Axis meridians{&CutVertex::Lon,
@@ -148,7 +150,7 @@ std::vector<CutVertex> CutAlongLines(const std::vector<CutVertex>& ring, const G
                        lines.Width,
                        NudgeLon,
                        lines.Height,
-                       -NudgeLat,
+                       moveOff ? -NudgeLat : 0,
                        CutMark::LeavesOverMeridian,
                        CutMark::EntersOverMeridian};
   std::vector<CutVertex> cut;

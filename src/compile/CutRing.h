@@ -61,6 +61,10 @@ double CountCrossings(const std::vector<Vertex>& ring, const GridLines& lines) {
 /// Points of their Cell, where only those on the border of the Cell do.
 enum class SnapForm { Area, Cell };
 
+/// What becomes of a cut that falls on the corner of four squares: it is moved a nudge off it, to the east or
+/// south, so that it lies in one square, or it stays on the sides of all that it touches.
+enum class CornerCuts { MoveOff, Stay };
+
 /// Every vertex on its Point; those that then equal the one before go, the last one too when it equals the
 /// first. Runs clockwise on the map. Fewer than 3 are returned as none. Throws RuntimeError for a vertex
 /// outside of the world.
@@ -68,9 +72,9 @@ std::vector<CutVertex> SnapRing(const std::vector<PolyPoint>& ring, SnapForm for
 
 /// The ring with two vertices more at each crossing of an edge and a line: the one by which it leaves the
 /// square, a nudge on this side of the line, and the one by which it enters the next, a nudge beyond. A
-/// vertex on a line makes no crossing. First all parallels are cut, then the meridians. A cut that falls on
-/// the corner of four squares is moved a nudge off it, to the east or south, so that it lies in one square.
-/// The work grows with the vertices and the crossings. Throws RuntimeError for more than MostCrossings.
-std::vector<CutVertex> CutAlongLines(const std::vector<CutVertex>& ring, const GridLines& lines);
+/// vertex on a line makes no crossing. First all parallels are cut, then the meridians. The work grows with
+/// the vertices and the crossings. Throws RuntimeError for more than MostCrossings.
+std::vector<CutVertex> CutAlongLines(const std::vector<CutVertex>& ring, const GridLines& lines,
+                                     CornerCuts corners);
 
 }  // namespace landsmith

@@ -130,20 +130,13 @@ void WriteCell(ScmWriter& out, const ExcludeCell& cell, std::int64_t number) {
   }
 }
 
-/// A header whose north lies south of its south is no header to the tool.
-GeoBox HeaderBounds(const Excluded& excluded) {
-  GeoBox bounds = excluded.Bounds;
-  if (bounds == GeoBox{}) bounds.Add(0, 0);
-  return bounds;
-}
-
 }  // namespace
 
 std::string ExcludePolySource(const ProjectState& project) {
   const Excluded excluded = CollectExcluded(project);
   const std::vector<ExcludeCell> cells = GroupTouches(excluded);
   ScmWriter out;
-  WriteHeader(out, HeaderBounds(excluded));
+  WriteHeader(out, excluded.Bounds);
   out.EmptyLine().Line(VtpAreaFileHeader);
   std::int64_t number = 0;
   for (const ExcludeCell& cell : cells)

@@ -175,16 +175,18 @@ public:
   }
 
 private:
-  void CheckOnPoints(LatLon shift) {
-    if (!CheckPlaces(m_poly.Points, shift, m_found)) return;
+  /// False when a vertex lies outside the world.
+  bool CheckOnPoints(LatLon shift) {
+    if (!CheckPlaces(m_poly.Points, shift, m_found)) return false;
     CheckShape(RingOnPoints(m_poly.Points, shift), m_at,
-               "The polygon has no area on the grid: nothing is compiled of it.", m_found);
+               "The polygon has no area on the grid: it covers no ground.", m_found);
+    return true;
   }
 
   /// Of what is cut into Areas; into Cells even the world can be cut.
   void CheckOnAreas() {
-    CheckOnPoints({});
-    if (IsTooLarge(m_poly.Points)) m_found.Error(m_at, "The polygon is too large or too wild to be cut.");
+    if (CheckOnPoints({}) && IsTooLarge(m_poly.Points))
+      m_found.Error(m_at, "The polygon is too large or too wild to be cut.");
   }
 
   void CheckAltitudes(const LwmPolyType& type) {

@@ -33,7 +33,8 @@ public:
   Clipper(const GridRules& rules, const AltitudePlane* slope) : m_rules(rules), m_slope(slope) {}
 
   ClippedPoly Clip(const std::vector<CutVertex>& snapped) {
-    m_placed = PlaceInSquares(CutAlongLines(snapped, LinesOf(m_rules.Grid)), m_rules.Grid);
+    m_placed =
+        PlaceInSquares(CutAlongLines(snapped, LinesOf(m_rules.Grid), CornerCuts::MoveOff), m_rules.Grid);
     m_clipped.Squares = m_placed.Squares.size();
     m_clipped.Pieces.reserve(m_placed.Squares.size() + 1);
     m_clipped.Points.reserve(m_placed.Points.size() + m_placed.Squares.size() * 4);
@@ -130,9 +131,13 @@ private:
     m_clipped.Pieces.push_back(piece);
   }
 
-  static bool HasThreePoints(const ClosedRing& ring) {
-    const auto differs = [](const WalkedPoint& from) {
-      return [&from](const WalkedPoint& point) { return point.X != from.X || point.Y != from.Y; };
+  /// As they are written: a corner that lies outside is another point than a cut on it.
+  bool HasThreePoints(const ClosedRing& ring) const {
+    const auto differs = [this](const WalkedPoint& from) {
+      return [this, &from](const WalkedPoint& point) {
+        return point.X != from.X || point.Y != from.Y ||
+               (m_rules.Overhang > 0 && (point.Corner < 0) != (from.Corner < 0));
+      };
     };
     if (ring.size() < 3) return false;
     const auto second = std::find_if(ring.begin(), ring.end(), differs(ring.front()));

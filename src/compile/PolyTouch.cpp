@@ -110,7 +110,7 @@ TouchedAreas ClipPolyToAreasForExclude(const std::vector<PolyPoint>& ring) {
     touched.Box.Add(vertex.Lat, vertex.Lon);
   const Range rows{Floor(touched.Box.SLat / AreaHeight), Floor(touched.Box.NLat / AreaHeight)};
   const Range cols{Floor(touched.Box.WLon / AreaWidth), Floor(touched.Box.ELon / AreaWidth)};
-  const std::vector<CutVertex> cut = CutAlongLines(snapped, {AreaHeight, AreaWidth});
+  const std::vector<CutVertex> cut = CutAlongLines(snapped, {AreaHeight, AreaWidth}, CornerCuts::Stay);
   std::vector<RowCol> areas = AreasOfVertices(cut, rows, cols);
   SortWithoutRepeats(areas);
   AddEnclosed(CentreCrossings(cut, rows), rows, cols, areas);

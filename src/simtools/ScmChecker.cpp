@@ -71,10 +71,12 @@ void CheckHeader(SourceCheck& check, const Statement& statement, bool complete) 
   if (check.Errors.size() == before) check.BoundsLine = statement.Line;
 }
 
-/// Masks of a single fill come with bounds the wrong way round, and readers take only their middle.
+/// Masks of a single fill come with bounds the wrong way round, and readers take only their middle. Terrain
+/// without Cells, an exclusion of nothing, has no bounds at all.
 void CheckOrderOfBounds(SourceCheck& check) {
   if (check.BoundsLine == 0) return;
-  auto& list = check.Subject == Scenery::Masks ? check.Warnings : check.Errors;
+  const bool isEmptyTerrain = check.Subject == Scenery::VectorTerrain && check.Vtp.File().Cells.empty();
+  auto& list = check.Subject == Scenery::Masks || isEmptyTerrain ? check.Warnings : check.Errors;
   if (check.Header.North <= check.Header.South)
     list.push_back({check.BoundsLine, "Header: the northern bound is not north of the southern one"});
   if (check.Header.East <= check.Header.West)

@@ -119,7 +119,8 @@ TEST(PolyClip, BothWalksAgreeOnCleanSquares) {
       star.emplace_back(131.7 + reach * std::cos(turn), 97.3 + reach * std::sin(turn));
     }
     const RingInSquares placed = PlaceInSquares(
-        CutAlongLines(SnapRing(Ring(star), SnapForm::Area), LinesOf(SquareGrid::Areas)), SquareGrid::Areas);
+        CutAlongLines(SnapRing(Ring(star), SnapForm::Area), LinesOf(SquareGrid::Areas), CornerCuts::MoveOff),
+        SquareGrid::Areas);
     for (const VisitedSquare& square : placed.Squares) {
       std::vector<SquarePoint> list;
       for (std::size_t r = square.FirstRun; r < square.FirstRun + square.RunCount; ++r)
@@ -189,7 +190,8 @@ TEST(PolyClip, PlacesOffTheEarthAreNamed) {
 
 // The slow way: every Area of the box asks every vertex and every edge.
 std::vector<TouchedArea> SlowTouch(const std::vector<PolyPoint>& polygon) {
-  const auto ring = CutAlongLines(SnapRing(polygon, SnapForm::Cell), {AreaHeight, AreaWidth});
+  const auto ring =
+      CutAlongLines(SnapRing(polygon, SnapForm::Cell), {AreaHeight, AreaWidth}, CornerCuts::Stay);
   GeoBox box;
   for (const CutVertex& vertex : SnapRing(polygon, SnapForm::Cell))
     box.Add(vertex.Lat, vertex.Lon);

@@ -76,14 +76,14 @@ TEST(CompileVTPPolys, NamesItsFileAfterTheProject) {
 }
 
 // An earlier exclusion of the project must go, so the file is there even when no polygon is left.
-TEST(CompileExcludePolys, WritesAFileWithoutCellsThatTheToolTakes) {
+TEST(CompileExcludePolys, WritesAFileWithoutCells) {
   CompileRig rig;
   rig.project.Polys = Holding("Other//1//0//0//0//", Sliver).Polys;
   CompileExcludePolys(rig.Context());
   EXPECT_EQ(rig.tools.ran, std::vector<std::string>{"scasm work\\0_My_Project_VTPX.scm -s -l"});
   const std::string source = ReadWholeFile(rig.folders.Work() / "0_My_Project_VTPX.scm");
-  EXPECT_TRUE(
-      source.starts_with("Header( 1 1 0 1 0 )\r\n\r\nVTPFileHeader( 0x100 )\r\n\r\nVTPIndexList( 0\r\n"))
+  EXPECT_TRUE(source.starts_with(
+      "Header( 1 -89 90 -179 180 )\r\n\r\nVTPFileHeader( 0x100 )\r\n\r\nVTPIndexList( 0\r\n"))
       << source;
 }
 
