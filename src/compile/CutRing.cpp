@@ -134,6 +134,9 @@ std::vector<CutVertex> SnapRing(const std::vector<PolyPoint>& ring, SnapForm for
 std::vector<CutVertex> CutAlongLines(const std::vector<CutVertex>& ring, const GridLines& lines,
                                      CornerCuts corners) {
   const bool moveOff = corners == CornerCuts::MoveOff;
+  if (CountCrossings(ring, lines) > MostCrossings)
+    throw RuntimeError::At("cutting a polygon", "", "",
+                           "its edges cross more than " + NumberText(MostCrossings) + " lines of the grid");
   const Axis parallels{&CutVertex::Lat,
                        &CutVertex::Lon,
                        lines.Height,

@@ -3,6 +3,8 @@
 
 #include "core/Records.h"
 
+#include <cmath>
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -40,6 +42,21 @@ struct GridLines {
   double Height = 0, Width = 0;
 };
 
+/// How often the edges of one ring may cross lines: each crossing takes 200 bytes while the ring is cut.
+inline constexpr double MostCrossings = 10'000'000;
+
+/// How often the edges of the ring cross lines, a crossing for each edge more or less.
+template <class Vertex>
+double CountCrossings(const std::vector<Vertex>& ring, const GridLines& lines) {
+  double crossings = 0;
+  for (std::size_t i = 0; i < ring.size(); ++i) {
+    const Vertex& to = ring[i + 1 == ring.size() ? 0 : i + 1];
+    crossings += std::fabs(to.Lat - ring[i].Lat) / lines.Height;
+    crossings += std::fabs(to.Lon - ring[i].Lon) / lines.Width;
+  }
+  return crossings;
+}
+
 /// Where vertices go: to Points of their Area, where those on the border of an Area lie a nudge inside, or to
 /// Points of their Cell, where only those on the border of the Cell do.
 enum class SnapForm { Area, Cell };
@@ -56,7 +73,7 @@ std::vector<CutVertex> SnapRing(const std::vector<PolyPoint>& ring, SnapForm for
 /// The ring with two vertices more at each crossing of an edge and a line: the one by which it leaves the
 /// square, a nudge on this side of the line, and the one by which it enters the next, a nudge beyond. A
 /// vertex on a line makes no crossing. First all parallels are cut, then the meridians. The work grows with
-/// the vertices and the crossings.
+/// the vertices and the crossings. Throws RuntimeError for more than MostCrossings.
 std::vector<CutVertex> CutAlongLines(const std::vector<CutVertex>& ring, const GridLines& lines,
                                      CornerCuts corners);
 

@@ -95,7 +95,7 @@ void CheckItem(const LineRec& line, LatLon shift, ItemFindings& found) {
   if (!vtp) return;
   const LatLon at = PlaceOf(line.Points);
   CheckVtpFields(vtp->Layer, vtp->Texture, at, found);
-  if (!CheckPlaces(line.Points, found)) return;
+  if (!CheckPlaces(line.Points, shift, found)) return;
   const std::vector<LinePoint> points = SnapLinePoints(MovedBy(shift, line.Points));
   if (points.size() < 2) {
     found.Warn(at, "The line has no two different vertices on the grid: nothing is compiled of it.");

@@ -1,8 +1,12 @@
+#include "compile/CutRing.h"
 #include "compile/ItemFindings.h"
 #include "compile/PolyClip.h"
+#include "compile/RingSquares.h"
+#include "compile/TexSurface.h"
 #include "core/Grid.h"
 #include "core/Numbers.h"
 #include "core/Text.h"
+#include "platform/RuntimeError.h"
 #include "vector/LineType.h"
 #include "vector/PackedText.h"
 #include "vector/PolyType.h"
@@ -83,25 +87,47 @@ bool IsTakenAsWritten(std::string_view field, std::int32_t largest) {
   return number && *number <= largest && digits.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
-/// What the statements of a mask take: points of one piece, metres.
+/// Points of one piece that a statement of masks takes.
 constexpr std::size_t MostMaskPoints = 318;
-constexpr float LowestMaskAltitude = -32768, MaskAltitudesEnd = 32768;
-
-bool IsMaskAltitude(float metres) {
-  return metres >= LowestMaskAltitude && metres < MaskAltitudesEnd;
-}
 
 /// In one Area a ring that does not cross itself has its own vertices, two cuts an edge and four corners.
 bool MayHaveLargePiece(std::size_t vertices) {
   return 3 * vertices + 4 > MostMaskPoints;
 }
 
-constexpr const char* NoAltitude = "A vertex has an altitude that is no number.";
+constexpr const char* NoAltitude = "A vertex has an altitude that cannot be.";
+
+/// What a statement of masks takes.
+constexpr double LowestMaskAltitude = -32768, HighestMaskAltitude = 32767 + 127.0 / 128;
+
+/// Whether the polygon fits into a file. That of few Areas is not cut for it.
+bool IsTooLarge(const std::vector<PolyPoint>& points) {
+  GeoBox box;
+  for (const PolyPoint& point : points)
+    box.Add(point.Lat, point.Lon);
+  if (CountCrossings(points, {AreaHeight, AreaWidth}) > MostCrossings) return true;
+  const double most = (box.NLat - box.SLat) / AreaHeight * ((box.ELon - box.WLon) / AreaWidth);
+  if (!(most > static_cast<double>(MostSquares))) return false;
+  try {
+    ClipPolyToAreasForExclude(points);
+  } catch (const RuntimeError&) {
+    return true;
+  }
+  return false;
+}
 
 /// The compiler takes the last four characters off.
 bool IsOnlyExtension(const std::string& bitmap) {
   constexpr std::size_t extension = 4;
   return !bitmap.empty() && ToWindows1252(bitmap).size() <= extension;
+}
+
+/// The name stands in the text without quotes.
+bool IsBitmapWord(const std::string& bitmap) {
+  return std::none_of(bitmap.begin(), bitmap.end(), [](char c) {
+    return static_cast<unsigned char>(c) <= ' ' ||
+           std::string_view("()\";").find(c) != std::string_view::npos;
+  });
 }
 
 bool IsPair(std::string_view text) {
@@ -138,7 +164,7 @@ public:
   }
   void operator()(const LwmPolyType& type) {
     CheckAltitudes(type);
-    if (CheckOnPoints({})) CheckPieces();
+    if (CheckOnAreas()) CheckPieces();
   }
   void operator()(const VtpPolyType& type) {
     CheckVtpFields(type.Layer, type.Texture, m_at, m_found);
@@ -146,20 +172,20 @@ public:
   }
   void operator()(const ExclusionPolyType& type) {
     if (LayersOfMasks(type.Masks).empty()) m_found.Warn(m_at, "The polygon excludes no layer.");
-    CheckOnPoints({});
+    CheckOnAreas();
   }
   void operator()(const TexPolyType& type) {
     CheckTexFields(type);
-    if (const PolyPoint* odd = VertexWithoutAltitude()) m_found.Error(ShownAt(*odd), NoAltitude);
-    if (CheckPlaces(m_poly.Points, m_found))
+    if (const PolyPoint* odd = VertexWithoutAltitude(IsTexAltitude)) m_found.Error(ShownAt(*odd), NoAltitude);
+    if (CheckPlaces(m_poly.Points, {}, m_found))
       CheckShape(RingAsDrawn(m_poly.Points), m_at, "The polygon has no area: nothing of it can be seen.",
                  m_found);
   }
 
 private:
-  /// Whether the vertices have Points at all.
+  /// False when a vertex lies outside the world.
   bool CheckOnPoints(LatLon shift) {
-    if (!CheckPlaces(m_poly.Points, m_found)) return false;
+    if (!CheckPlaces(m_poly.Points, shift, m_found)) return false;
     CheckShape(RingOnPoints(m_poly.Points, shift), m_at,
                "The polygon has no area on the grid: it covers no ground.", m_found);
     return true;
@@ -180,19 +206,28 @@ private:
                       ": simplify it there or split it.");
   }
 
+  /// Of what is cut into Areas; into Cells even the world can be cut. False when it cannot be cut.
+  bool CheckOnAreas() {
+    if (!CheckOnPoints({})) return false;
+    if (!IsTooLarge(m_poly.Points)) return true;
+    m_found.Error(m_at, "The polygon is too large or too wild to be cut.");
+    return false;
+  }
+
   void CheckAltitudes(const LwmPolyType& type) {
     const auto highest = ParseFloat(type.Highest), lowest = ParseFloat(type.Lowest);
     if (!highest || !lowest) {
       m_found.Error(m_at, "The altitude \"" + (highest ? type.Lowest : type.Highest) + "\" is no number.");
-    } else if (!IsMaskAltitude(*highest) || !IsMaskAltitude(*lowest)) {
-      m_found.Error(m_at, "The altitude " + Metres(IsMaskAltitude(*highest) ? *lowest : *highest) +
-                              " is farther from sea level than the tool takes.");
-    } else if (*ParseNumber(type.Highest) == *ParseNumber(type.Lowest)) {
+      return;
+    }
+    CheckMaskAltitude(*ParseNumber(type.Highest), m_at, m_found);
+    if (*ParseNumber(type.Highest) == *ParseNumber(type.Lowest)) {
       if (!IsLevel())
         m_found.Warn(m_at, "The polygon is compiled level at " + Metres(*highest) +
                                ", but its vertices have different altitudes.");
     } else {
-      if (const PolyPoint* odd = VertexWithoutAltitude()) m_found.Warn(ShownAt(*odd), NoAltitude);
+      CheckMaskAltitude(*ParseNumber(type.Lowest), m_at, m_found);
+      if (const PolyPoint* odd = VertexWithoutAltitude(IsFinite)) m_found.Warn(ShownAt(*odd), NoAltitude);
       CheckSlope(type, Metres(*highest), Metres(*lowest));
     }
   }
@@ -218,13 +253,18 @@ private:
     return &m_poly.Points[static_cast<std::size_t>(*number) - 1];
   }
 
-  const PolyPoint* VertexWithoutAltitude() const {
+  static bool IsFinite(float altitude) { return std::isfinite(altitude); }
+
+  const PolyPoint* VertexWithoutAltitude(bool (*isAltitude)(float)) const {
     const auto odd = std::find_if(m_poly.Points.begin(), m_poly.Points.end(),
-                                  [](const PolyPoint& point) { return !std::isfinite(point.Alt); });
+                                  [&](const PolyPoint& point) { return !isAltitude(point.Alt); });
     return odd == m_poly.Points.end() ? nullptr : &*odd;
   }
 
   void CheckTexFields(const TexPolyType& type) {
+    if (!IsBitmapWord(type.Name))
+      m_found.Error(m_at, "The bitmap's name \"" + type.Name +
+                              "\" has blanks, brackets, quotes, a semicolon or a line end in it.");
     if (IsOnlyExtension(type.Name))
       m_found.Error(m_at, "The bitmap's name \"" + type.Name + "\" is no more than an extension.");
     if (!ParseInt32(type.TileX) || !ParseInt32(type.TileY))
@@ -259,6 +299,12 @@ private:
 };
 
 }  // namespace
+
+void CheckMaskAltitude(double altitude, LatLon at, ItemFindings& found) {
+  if (altitude >= LowestMaskAltitude && altitude <= HighestMaskAltitude) return;
+  found.Error(
+      at, "The altitude " + NumberText(static_cast<float>(altitude)) + " m is not from -32768 to 32767 m.");
+}
 
 void CheckItem(const PolyRec& poly, LatLon shift, ItemFindings& found) {
   std::visit(PolyCheck(poly, shift, found), DecodePolyType(poly.Type));

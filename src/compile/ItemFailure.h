@@ -22,4 +22,11 @@ inline RuntimeError ItemFailure(const ItemWords& words, std::size_t index, const
   return RuntimeError::At(std::string(words.Doing), "", place, found);
 }
 
+/// For a field that goes into the source as it stands, where a line end would begin another statement.
+/// Throws RuntimeError that names the field.
+inline void RequireOneLine(const std::string& field) {
+  if (field.find_first_of("\r\n") != std::string::npos)
+    throw RuntimeError("\"" + field + "\" is more than one line");
+}
+
 }  // namespace landsmith

@@ -33,6 +33,10 @@ private:
 /// `shift`: what the settings add to the vertices of vector terrain, in degrees.
 void CheckItem(const LineRec& line, LatLon shift, ItemFindings& found);
 void CheckItem(const PolyRec& poly, LatLon shift, ItemFindings& found);
+void CheckItem(const FillRec& fill, ItemFindings& found);
+
+/// Of a land or water mask, in metres.
+void CheckMaskAltitude(double altitude, LatLon at, ItemFindings& found);
 
 /// Layer and texture of a line or polygon of vector terrain; `at` is where the item lies.
 void CheckVtpFields(const std::string& layer, const std::string& texture, LatLon at, ItemFindings& found);
@@ -52,13 +56,20 @@ LatLon PlaceOf(const std::vector<Point>& points) {
   return {};
 }
 
-/// Whether all vertices lie in the world; otherwise says so.
+/// Whether all vertices lie in the world, moved by `shift` and without; otherwise says so.
 template <class Point>
-bool CheckPlaces(const std::vector<Point>& points, ItemFindings& found) {
-  std::size_t outside = 0;
+bool CheckPlaces(const std::vector<Point>& points, LatLon shift, ItemFindings& found) {
+  std::size_t outside = 0, shiftedOut = 0;
   for (const Point& point : points)
-    outside += IsInWorld({point.Lat, point.Lon}) ? 0U : 1U;
-  if (outside == 0) return true;
+    if (!IsInWorld({point.Lat, point.Lon}))
+      ++outside;
+    else if (!IsInWorld({point.Lat + shift.lat, point.Lon + shift.lon}))
+      ++shiftedOut;
+  if (outside == 0 && shiftedOut == 0) return true;
+  if (outside == 0) {
+    found.Error(PlaceOf(points), "The shift of the settings takes vertices out of the world.");
+    return false;
+  }
   found.Error(PlaceOf(points), outside == 1 ? "A vertex lies outside the world."
                                             : std::to_string(outside) + " vertices lie outside the world.");
   return false;

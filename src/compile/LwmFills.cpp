@@ -11,17 +11,12 @@
 namespace landsmith {
 namespace {
 
-constexpr std::uint8_t WholeCell = 32, LandFill = 1, LastFillType = 2;
+constexpr std::uint8_t WholeCell = 32, LastFillType = 2;
 constexpr std::array<std::uint8_t, 6> FillSizes{1, 2, 4, 8, 16, WholeCell};
 
 void RequireFill(const ProjectState& project, std::size_t index) {
-  const FillRec& fill = project.Fills[index];
-  const bool hasSize = std::find(FillSizes.begin(), FillSizes.end(), fill.Size) != FillSizes.end();
-  if (hasSize && fill.Type <= LastFillType) return;
-  const std::string found =
-      hasSize ? "the type " + std::to_string(fill.Type) + " is none of 0, 1 and 2"
-              : "a side of " + std::to_string(fill.Size) + " Areas is none of 1, 2, 4, 8, 16 and 32";
-  throw RuntimeError::At("compiling the area fills", "", "fill " + std::to_string(index + 1), found);
+  if (const auto fault = FaultOfFill(project.Fills[index]))
+    throw RuntimeError::At("compiling the area fills", "", "fill " + std::to_string(index + 1), *fault);
 }
 
 void WriteMacro(ScmWriter& out, const FillRec& fill) {
@@ -38,6 +33,13 @@ void WriteFill(ScmWriter& out, const FillRec& fill) {
 }
 
 }  // namespace
+
+std::optional<std::string> FaultOfFill(const FillRec& fill) {
+  if (std::find(FillSizes.begin(), FillSizes.end(), fill.Size) == FillSizes.end())
+    return "a side of " + std::to_string(fill.Size) + " Areas is none of 1, 2, 4, 8, 16 and 32";
+  if (fill.Type > LastFillType) return "the type " + std::to_string(fill.Type) + " is none of 0, 1 and 2";
+  return std::nullopt;
+}
 
 FillList CollectFills(const ProjectState& project) {
   FillList fills;

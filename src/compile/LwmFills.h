@@ -5,12 +5,21 @@
 #include "compile/ScmWriter.h"
 #include "core/Project.h"
 
+#include <cstdint>
+#include <optional>
+#include <string>
 #include <vector>
 
 namespace landsmith {
 
 /// The fills of one file or of one Cell; the project keeps the records.
 using FillList = std::vector<const FillRec*>;
+
+/// The type of a fill that has no height.
+inline constexpr std::uint8_t LandFill = 1;
+
+/// What is wrong with a size or a type that no statement has.
+std::optional<std::string> FaultOfFill(const FillRec& fill);
 
 /// The selected fills in the project's order. Throws RuntimeError that names the fill for a size or a type
 /// that no statement has.

@@ -64,6 +64,7 @@ struct TouchedAreas {
 };
 
 /// The Areas that hold a vertex of the ring or of its cuts, sides included, or whose centre lies in the ring.
+/// Throws RuntimeError for a vertex that is no place on the grid and for too many Areas.
 TouchedAreas ClipPolyToAreasForExclude(const std::vector<PolyPoint>& ring);
 
 }  // namespace landsmith

@@ -77,8 +77,14 @@ void AddEnclosed(const std::vector<std::vector<double>>& crossings, Range rows, 
       if ((col + 0.5) * AreaWidth < inRow[k]) ++col;
       for (; (col + 0.5) * AreaWidth < inRow[k + 1]; ++col)
         if (cols.Has(col)) areas.push_back({row, col});
+      RequireSquares(areas.size());
     }
   }
+}
+
+void SortWithoutRepeats(std::vector<RowCol>& areas) {
+  std::sort(areas.begin(), areas.end());
+  areas.erase(std::unique(areas.begin(), areas.end()), areas.end());
 }
 
 TouchedArea AreaAt(RowCol at) {
@@ -104,9 +110,9 @@ TouchedAreas ClipPolyToAreasForExclude(const std::vector<PolyPoint>& ring) {
   const Range cols{Floor(touched.Box.WLon / AreaWidth), Floor(touched.Box.ELon / AreaWidth)};
   const std::vector<CutVertex> cut = CutAlongLines(snapped, {AreaHeight, AreaWidth}, CornerCuts::Stay);
   std::vector<RowCol> areas = AreasOfVertices(cut, rows, cols);
+  SortWithoutRepeats(areas);
   AddEnclosed(CentreCrossings(cut, rows), rows, cols, areas);
-  std::sort(areas.begin(), areas.end());
-  areas.erase(std::unique(areas.begin(), areas.end()), areas.end());
+  SortWithoutRepeats(areas);
   touched.Areas.reserve(areas.size());
   for (const RowCol& area : areas)
     touched.Areas.push_back(AreaAt(area));

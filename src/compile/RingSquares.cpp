@@ -10,9 +10,6 @@
 namespace landsmith {
 namespace {
 
-/// That one polygon may cover. So many Areas are 60 by 60 Cells, half a continent and a gigabyte of text.
-constexpr std::size_t MostSquares = 4'000'000;
-
 struct PlacedVertex {
   SquareIndex Square;
   SquarePoint Point;
@@ -133,9 +130,7 @@ private:
     if (winding % 2 == 0) return;  // the even-odd rule, for rings that cross themselves
     const SquareIndex from = m_placed.Squares.back().Square;
     const auto between = static_cast<std::size_t>(square.Col - from.Col - 1);
-    if (m_placed.Squares.size() + between > MostSquares)
-      throw RuntimeError::At("cutting a polygon", "", "",
-                             "it covers more than " + std::to_string(MostSquares) + " squares of the grid");
+    RequireSquares(m_placed.Squares.size() + between);
     for (std::int32_t col = from.Col + 1; col < square.Col; ++col)
       m_placed.Squares.push_back({{col, square.Row}, 0, 0, 2 * m_side * m_side});
   }
@@ -160,6 +155,12 @@ private:
 };
 
 }  // namespace
+
+void RequireSquares(std::size_t squares) {
+  if (squares > MostSquares)
+    throw RuntimeError::At("cutting a polygon", "", "",
+                           "it covers more than " + std::to_string(MostSquares) + " squares of the grid");
+}
 
 RingInSquares PlaceInSquares(const std::vector<CutVertex>& ring, SquareGrid grid) {
   RingInSquares placed;

@@ -23,6 +23,11 @@ constexpr GridLines LinesOf(SquareGrid grid) {
   return grid == SquareGrid::Areas ? GridLines{AreaHeight, AreaWidth} : GridLines{CellHeight, CellWidth};
 }
 
+/// That one polygon may cover. So many Areas are 60 by 60 Cells, half a continent and a gigabyte of text.
+inline constexpr std::size_t MostSquares = 4'000'000;
+/// Throws RuntimeError when a polygon covers more.
+void RequireSquares(std::size_t squares);
+
 /// A vertex of a cut ring in Points from the north-west corner of its square.
 struct SquarePoint {
   std::int32_t X = 0, Y = 0;

@@ -109,6 +109,8 @@ void WriteTriangles(ScmWriter& out, const std::vector<Triangle>& triangles) {
 void WriteSurface(ScmWriter& out, std::size_t index, const PolyRec& poly, const TexPolyType& type,
                   const TexSurface& surface) {
   const std::string stem = BitmapStem(type.Name);
+  for (const std::string* field : {&type.Name, &type.Priority, &type.V1})
+    RequireOneLine(*field);
   const auto night = ParseInt32(type.Night);
   if (!night) throw RuntimeError("Night \"" + type.Night + "\" is no whole number");
   out.Text("; Textured Poly # ").Integer(static_cast<std::int64_t>(index) + 1).EndLine().EmptyLine();
@@ -147,7 +149,6 @@ std::optional<TexSource> TexPolySource(const ProjectState& project) {
   if (polys.empty()) return std::nullopt;
   TexSource source;
   ScmWriter out;
-  WriteHead(out, bounds);
   for (const std::size_t index : polys) {
     const PolyRec& poly = project.Polys[index];
     try {
@@ -159,7 +160,9 @@ std::optional<TexSource> TexPolySource(const ProjectState& project) {
       throw ItemFailure(PolyWords, index, poly.Name, failure.what());
     }
   }
-  source.Text = out.Take();
+  ScmWriter head;  // the bounds are those of places now
+  WriteHead(head, bounds);
+  source.Text = head.Take() + out.Take();
   return source;
 }
 

@@ -31,6 +31,14 @@ std::int32_t WholeNumber(std::string_view text, const std::string& what) {
   return *number;
 }
 
+/// A NaN fails as well.
+void RequireInWorld(const PolyPoint& point, std::size_t index) {
+  if (std::fabs(point.Lat) <= 90 && std::fabs(point.Lon) <= 180 && IsTexAltitude(point.Alt)) return;
+  throw RuntimeError("vertex " + std::to_string(index + 1) + " at " + NumberText(point.Lat) + " " +
+                     NumberText(point.Lon) + " with the altitude " + NumberText(point.Alt) +
+                     " lies nowhere in the world");
+}
+
 std::vector<TiedPoint> Tied(const std::vector<PolyPoint>& points, std::string_view pairs) {
   std::vector<TiedPoint> tied;
   for (const PolyPoint& point : points) {
@@ -74,7 +82,14 @@ std::int32_t RadiusOf(const std::vector<TexVertex>& vertices) {
 
 }  // namespace
 
+bool IsTexAltitude(float metres) {
+  constexpr float farthest = 100'000;
+  return std::fabs(metres) <= farthest;
+}
+
 TexSurface MakeTexSurface(const std::vector<PolyPoint>& points, const TexPolyType& type) {
+  for (std::size_t i = 0; i < points.size(); ++i)
+    RequireInWorld(points[i], i);
   const std::int32_t tileX = WholeNumber(type.TileX, "TileX");
   const std::int32_t tileY = WholeNumber(type.TileY, "TileY");
   std::vector<TiedPoint> ring = Tied(points, type.Pairs);

@@ -24,9 +24,12 @@ struct TexSurface {
   Triangulation Parts;
 };
 
+/// Where a surface can be seen: within 100 km of sea level.
+bool IsTexAltitude(float metres);
+
 /// `points`: 3 vertices or more; `type`: with one pair for each of them, in the same order. Where the ring is
 /// turned round the pairs are too. Throws RuntimeError that says what is wrong, not whose it is, for a pair,
-/// TileX or TileY that is no 32-bit number.
+/// TileX or TileY that is no 32-bit number, and for a vertex that lies nowhere in the world.
 TexSurface MakeTexSurface(const std::vector<PolyPoint>& points, const TexPolyType& type);
 
 }  // namespace landsmith

@@ -41,7 +41,8 @@ bool IsVtpItem(const Path& path) {
 std::int32_t VtpLayerNumber(const std::string& field);
 
 /// The selected items of head "VTP", in their order. `fieldsOf` decodes a Type text of that head to something
-/// with `Layer` and `Texture`. Throws RuntimeError that names the item for a layer that is no 16-bit number.
+/// with `Layer` and `Texture`. Throws RuntimeError that names the item for a layer that is no 16-bit number
+/// and for a texture of several lines.
 template <class Path, class FieldsOf>
 std::vector<VtpItem> CollectVtpItems(const RecordList<Path>& paths, FieldsOf fieldsOf, const ItemWords& words,
                                      TextureNames& textures) {
@@ -51,6 +52,7 @@ std::vector<VtpItem> CollectVtpItems(const RecordList<Path>& paths, FieldsOf fie
     const auto fields = fieldsOf(paths[i].Type);
     try {
       const std::int32_t layer = VtpLayerNumber(fields.Layer);
+      RequireOneLine(fields.Texture);
       items.push_back({i, layer, textures.Add(fields.Texture)});
     } catch (const RuntimeError& failure) {
       throw ItemFailure(words, i, paths[i].Name, failure.what());

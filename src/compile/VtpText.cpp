@@ -4,7 +4,10 @@
 #include "compile/ScmFrame.h"
 #include "vector/LineType.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <string>
+#include <string_view>
 
 namespace landsmith {
 namespace {
@@ -17,12 +20,20 @@ void WritePoint(ScmWriter& out, const RunPoint& point) {
   out.Line(" )");
 }
 
+/// Line ends in the name become blanks: what follows would be read as a statement.
+void WriteComment(ScmWriter& out, std::string_view name) {
+  std::string text(name);
+  std::replace_if(
+      text.begin(), text.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
+  out.Text(";").Line(text);
+}
+
 /// How the polys of lines stand in the text.
 struct LineForm {
   static constexpr std::string_view FileHeader = "VTPFileHeader";
 
   static void Write(ScmWriter& out, const VtpPoly& poly) {
-    out.Text(";").Line(poly.Name);
+    WriteComment(out, poly.Name);
     out.Text("   VTPPoly( 2 ").Integer(std::ssize(poly.Points)).Line(" 1 )");
     for (const RunPoint& point : poly.Points)
       WritePoint(out, point);

@@ -31,7 +31,7 @@ std::optional<std::string_view> TakeWord(std::string_view& rest) {
 }
 
 bool IsName(std::optional<std::string_view> word) {
-  return word && !word->empty() && word->find('"') == std::string_view::npos;
+  return word && !word->empty() && word->find_first_of("\"\r\n") == std::string_view::npos;
 }
 
 /// The numbers behind a name, with the largest that each may be.
@@ -54,9 +54,12 @@ bool IsTextureTail(std::string_view rest) {
 
 TextureField JudgeTextureField(std::string_view field) {
   std::string_view rest = field;
-  if (!IsName(TakeWord(rest))) return TextureField::Unreadable;
+  const auto name = TakeWord(rest);
+  if (!IsName(name)) return TextureField::Unreadable;
   const bool isAlone = Trim(rest).empty();
   const bool isQuoted = Trim(field).starts_with('"');
+  // Without quotes these end a list or begin a comment.
+  if (!isQuoted && name->find_first_of("();") != std::string_view::npos) return TextureField::Unreadable;
   if (IsNumericTexture(field)) {
     if (!isAlone) return TextureField::Unreadable;
     return isQuoted || IsDigits(Trim(field)) ? TextureField::Good : TextureField::Strange;

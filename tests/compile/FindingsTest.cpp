@@ -196,6 +196,11 @@ TEST(FindingsOfPolys, ShapesFieldsAndAltitudes) {
        "LWM//Land//20//10//2//2//",
        Ramp,
        {"error The slope from 20 m to 10 m begins and ends at one place"}},
+      {"above the sky", "LWM//Land//40000//40000//1//1//", Square, {"error The altitude 40000 m is not"}},
+      {"round the world",
+       "LWM//Water//10//10//1//1//",
+       {{-3e6, 4e4}, {3e6, 4e4}, {3e6, -4e4}, {-3e6, -4e4}},
+       {"error The polygon is too large"}},
       {"a quarry", "VTP//4//12//", Square, {}},
       {"a crossed quarry without texture", "VTP//4////", BowTie, {"error No texture", crosses[0]}},
       {"layers left out", "Other//-2147483640//-2147483648//-2147483648//-2147483648//", Square, {}},
@@ -222,6 +227,14 @@ TEST(FindingsOfPolys, ShapesFieldsAndAltitudes) {
        Square,
        {"error The priority \"4.5\"", "error The visibility \"-5\""}},
       {"the highest priority", "TEX//roof.bmp//255//1.4//1//0//1//", Square, {}},
+      {"a bitmap's name that is two statements",
+       "TEX//a\nEnd.bmp//4//1//1//5000//0//",
+       Square,
+       {"error The bitmap's name"}},
+      {"a roof in space",
+       "TEX//roof.bmp//4//1//1//5000//0//",
+       {{10, 10}, {30, 10, 1e30F}, {30, 30}},
+       {"error A vertex has an altitude"}},
       {"no vertices", "TEX//roof.bmp//4//1//1//5000//0//", {}, vanishes},
       {"beyond the date line",
        "LWM//Land//1//1//1//1//",
@@ -252,11 +265,41 @@ TEST(FindingsOfPolys, PiecesOfAMaskThatTheToolTakes) {
   ExpectFindings(Check(PolyInSteps("VTP//4//12//", Comb(80))), {}, "no mask");
 }
 
+FillRec AFillOf(std::uint8_t size, std::uint8_t type, std::uint8_t col, float height) {
+  FillRec fill;
+  fill.Selected = true;
+  fill.Size = size;
+  fill.Type = type;
+  fill.Col = col;
+  fill.Height = height;
+  return fill;
+}
+
 TEST(FindingsOfPolys, TheKnotIsWhereToLook) {
   const auto findings = Check(PolyInSteps("VTP//4//12//", BowTie));
   ASSERT_EQ(findings.size(), 1U);
   EXPECT_NEAR(findings[0].At.lon, 20 * StepLon, 1e-9);
   EXPECT_NEAR(findings[0].At.lat, 20 * StepLat, 1e-9);
+}
+
+TEST(FindingsOfFills, WhatTheToolRefuses) {
+  const struct {
+    const char* name;
+    FillRec fill;
+    Expected expected;
+  } rows[] = {
+      {"the last block", AFillOf(2, 0, 15, 5), {}},
+      {"one block farther", AFillOf(2, 0, 16, 5), {"error The fill's block 16, 0"}},
+      {"no such size", AFillOf(3, 0, 0, 5), {"error The fill cannot be written: a side of 3"}},
+      {"no such type", AFillOf(1, 3, 0, 5), {"error The fill cannot be written: the type 3"}},
+      {"land has no height", AFillOf(1, 1, 0, 1e30F), {}},
+      {"water in space", AFillOf(1, 0, 0, 1e30F), {"error The altitude 1E+30 m"}},
+  };
+  for (const auto& row : rows) {
+    ProjectState project;
+    project.Fills.push_back(row.fill);
+    ExpectFindings(CheckSelectedItems(project, {}), row.expected, row.name);
+  }
 }
 
 TEST(Findings, SelectedItemsInTheirOrderLinesFirst) {

@@ -19,6 +19,7 @@ constexpr int MillisecondsAtOnce = 30;
 constexpr int MostTitleLetters = 27;
 
 QString ItemTitle(const ProjectState& project, const Finding& finding) {
+  if (finding.Kind == FillFinding) return FindingList::tr("Fill %1").arg(finding.Item + 1);
   const bool isLine = finding.Kind == LineFinding;
   const std::string& name = isLine ? project.Lines[finding.Item].Name : project.Polys[finding.Item].Name;
   const QString title =
