@@ -12,22 +12,31 @@
 namespace landsmith {
 namespace {
 
-/// All points in line: cut off where vertices stand so. There and back once is convex.
-bool IsConvexInLine(const ConvexPart& way) {
-  std::size_t backs = 0;
-  for (std::size_t k = 0; k < way.size(); ++k)
-    backs += IsSpike(way[k], way[(k + 1) % way.size()], way[(k + 2) % way.size()]) ? 1U : 0U;
-  return backs <= 2;
+bool RunsBack(const CellPoint& from, const CellPoint& to) {
+  return to.Y < from.Y || (to.Y == from.Y && to.X < from.X);
 }
 
+/// The way round changes once to running back and once forth again. Turning always to one side is not enough:
+/// a way that crosses itself may go round twice.
+bool GoesRoundOnce(const ConvexPart& way) {
+  std::size_t changes = 0;
+  const std::size_t count = way.size();
+  for (std::size_t k = 0; k < count; ++k)
+    if (RunsBack(way[k], way[(k + 1) % count]) != RunsBack(way[(k + 1) % count], way[(k + 2) % count]))
+      ++changes;
+  return changes <= 2;
+}
+
+/// A part without area counts as convex: vertices in line are cut off so.
 bool IsConvex(const ConvexPart& part) {
   ConvexPart way = part;  // a repeated point makes two turns of nothing out of a dent
   way.erase(std::unique(way.begin(), way.end()), way.end());
   while (way.size() > 1 && way.front() == way.back())
     way.pop_back();
+  if (!GoesRoundOnce(way)) return false;
   const std::size_t count = way.size();
   const auto isInLine = [&](const CellPoint& point) { return Turn2(way.front(), way[1], point) == 0; };
-  if (count < 3 || std::all_of(way.begin(), way.end(), isInLine)) return IsConvexInLine(way);
+  if (count < 3 || std::all_of(way.begin(), way.end(), isInLine)) return true;
   for (std::size_t k = 0; k < count; ++k) {
     const CellPoint& before = way[k];
     const CellPoint& at = way[(k + 1) % count];

@@ -87,10 +87,20 @@ bool IsTakenAsWritten(std::string_view field, std::int32_t largest) {
   return number && *number <= largest && digits.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
-constexpr const char* NoAltitude = "A vertex has an altitude that cannot be.";
+/// What the statements of a mask take: points of one piece, metres.
+constexpr std::size_t MostMaskPoints = 318;
+constexpr float LowestMaskAltitude = -32768, MaskAltitudesEnd = 32768;
 
-/// What a statement of masks takes.
-constexpr double LowestMaskAltitude = -32768, HighestMaskAltitude = 32767 + 127.0 / 128;
+bool IsMaskAltitude(float metres) {
+  return metres >= LowestMaskAltitude && metres < MaskAltitudesEnd;
+}
+
+/// In one Area a ring that does not cross itself has its own vertices, two cuts an edge and four corners.
+bool MayHaveLargePiece(std::size_t vertices) {
+  return 3 * vertices + 4 > MostMaskPoints;
+}
+
+constexpr const char* NoAltitude = "A vertex has an altitude that cannot be.";
 
 /// Whether the polygon fits into a file. That of few Areas is not cut for it.
 bool IsTooLarge(const std::vector<PolyPoint>& points) {
@@ -156,7 +166,7 @@ public:
   }
   void operator()(const LwmPolyType& type) {
     CheckAltitudes(type);
-    CheckOnAreas();
+    if (CheckOnAreas()) CheckPieces();
   }
   void operator()(const VtpPolyType& type) {
     CheckVtpFields(type.Layer, type.Texture, m_at, m_found);
@@ -183,10 +193,27 @@ private:
     return true;
   }
 
-  /// Of what is cut into Areas; into Cells even the world can be cut.
-  void CheckOnAreas() {
-    if (CheckOnPoints({}) && IsTooLarge(m_poly.Points))
-      m_found.Error(m_at, "The polygon is too large or too wild to be cut.");
+  /// Of what is cut into Areas; into Cells even the world can be cut. False when it cannot be cut.
+  bool CheckOnAreas() {
+    if (!CheckOnPoints({})) return false;
+    if (!IsTooLarge(m_poly.Points)) return true;
+    m_found.Error(m_at, "The polygon is too large or too wild to be cut.");
+    return false;
+  }
+
+  void CheckPieces() {
+    if (!MayHaveLargePiece(m_poly.Points.size())) return;
+    const ClippedPoly cut = ClipPolyToAreas(m_poly.Points, nullptr);
+    const auto largest =
+        std::max_element(cut.Pieces.begin(), cut.Pieces.end(),
+                         [](const PolyPiece& a, const PolyPiece& b) { return a.Count < b.Count; });
+    if (largest == cut.Pieces.end() || largest->Count <= MostMaskPoints) return;
+    const PiecePoint& first = cut.PointsOf(*largest).front();
+    m_found.Error(PointInAreaToLatLon(
+                      {first.X, first.Y, largest->AreaX, largest->AreaY, largest->CellX, largest->CellY}),
+                  "The polygon has " + std::to_string(largest->Count) +
+                      " points in one Area, where the tool takes " + std::to_string(MostMaskPoints) +
+                      ": simplify it there or split it.");
   }
 
   void CheckAltitudes(const LwmPolyType& type) {
@@ -195,13 +222,13 @@ private:
       m_found.Error(m_at, "The altitude \"" + (highest ? type.Lowest : type.Highest) + "\" is no number.");
       return;
     }
-    CheckMaskAltitude(*ParseNumber(type.Highest), m_at, m_found);
-    if (*ParseNumber(type.Highest) == *ParseNumber(type.Lowest)) {
+    if (!IsMaskAltitude(*highest) || !IsMaskAltitude(*lowest)) {
+      CheckMaskAltitude(IsMaskAltitude(*highest) ? *lowest : *highest, m_at, m_found);
+    } else if (*ParseNumber(type.Highest) == *ParseNumber(type.Lowest)) {
       if (!IsLevel())
         m_found.Warn(m_at, "The polygon is compiled level at " + Metres(*highest) +
                                ", but its vertices have different altitudes.");
     } else {
-      CheckMaskAltitude(*ParseNumber(type.Lowest), m_at, m_found);
       if (const PolyPoint* odd = VertexWithoutAltitude(IsFinite)) m_found.Warn(ShownAt(*odd), NoAltitude);
       CheckSlope(type, Metres(*highest), Metres(*lowest));
     }
@@ -275,10 +302,9 @@ private:
 
 }  // namespace
 
-void CheckMaskAltitude(double altitude, LatLon at, ItemFindings& found) {
-  if (altitude >= LowestMaskAltitude && altitude <= HighestMaskAltitude) return;
-  found.Error(
-      at, "The altitude " + NumberText(static_cast<float>(altitude)) + " m is not from -32768 to 32767 m.");
+void CheckMaskAltitude(float metres, LatLon at, ItemFindings& found) {
+  if (!IsMaskAltitude(metres))
+    found.Error(at, "The altitude " + Metres(metres) + " is farther from sea level than the tool takes.");
 }
 
 void CheckItem(const PolyRec& poly, LatLon shift, ItemFindings& found) {

@@ -10,8 +10,6 @@
 namespace landsmith {
 namespace {
 
-constexpr std::int32_t AreasPerCell = 32;
-constexpr std::int32_t WorldCols = 768, WorldRows = 512;  // in Cells
 /// With more passages through one square than this the plain walk, whose time can grow with their cube, is
 /// not tried; the exact one sorts them.
 constexpr std::size_t MostWalkedPassages = 200;
@@ -69,7 +67,7 @@ private:
   /// area there.
   bool IsInWorld(SquareIndex square) const {
     const std::int32_t perCell = m_rules.Grid == SquareGrid::Areas ? AreasPerCell : 1;
-    return square.Col < WorldCols * perCell && square.Row < WorldRows * perCell;
+    return square.Col < WorldColumns * perCell && square.Row < WorldRows * perCell;
   }
 
   void ListPoints(const VisitedSquare& square) {

@@ -10,12 +10,10 @@
 namespace landsmith {
 namespace {
 
-constexpr std::int32_t AreasPerCell = 32;
-
 // Rows count northward from the equator here and columns eastward from Greenwich, as the looked-at Areas
 // follow from the latitudes and longitudes themselves. Lines are exact in a double.
-constexpr std::int32_t RowsNorthOfEquator = 512 * AreasPerCell / 2,
-                       ColumnsWestOfGreenwich = 768 * AreasPerCell / 2;
+constexpr std::int32_t RowsNorthOfEquator = WorldRows * AreasPerCell / 2,
+                       ColumnsWestOfGreenwich = WorldColumns * AreasPerCell / 2;
 
 struct Range {
   std::int32_t Least = 0, Most = 0;

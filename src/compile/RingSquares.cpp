@@ -10,8 +10,6 @@
 namespace landsmith {
 namespace {
 
-constexpr std::int32_t AreasPerCell = 32;
-
 struct PlacedVertex {
   SquareIndex Square;
   SquarePoint Point;

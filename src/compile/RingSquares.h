@@ -13,6 +13,9 @@ namespace landsmith {
 /// The grid of Areas or of Cells, counted eastward and southward from the north-west corner of the world.
 enum class SquareGrid { Areas, Cells };
 
+/// On each side of a Cell; and Cells in the world.
+inline constexpr std::int32_t AreasPerCell = 32, WorldColumns = 768, WorldRows = 512;
+
 constexpr std::int32_t PointsPerSide(SquareGrid grid) {
   return grid == SquareGrid::Areas ? 255 : 8160;
 }

@@ -17,6 +17,7 @@ Editor::Editor(Session& session, CanvasSurfaces& surfaces, EditorHost& host)
     m_mode->Paint(surface);
     m_context.measure.Paint(surface, m_session.view);
     if (m_gesture) m_gesture->Paint(surface);
+    if (m_finding) PaintFinding(surface, *m_finding, m_session.project, m_session.view);
   });
 }
 

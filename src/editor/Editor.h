@@ -2,6 +2,7 @@
 // carries out the commands. The window translates events, forwards them, and does what EditorHost says.
 #pragma once
 
+#include "compile/Findings.h"
 #include "editor/Display.h"
 #include "editor/Edit.h"
 #include "editor/EditorHost.h"
@@ -74,6 +75,10 @@ public:
   void ZoomAt(PixelOffset at, ZoomStep step);
   void CenterAt(PixelOffset at);
   void GoTo(LatLon center);
+  /// Goes to the place of a finding and keeps its item marked on the canvas until HideFinding. The selection
+  /// stays as it is: it says what will be compiled.
+  void ShowFinding(const Finding& finding);
+  void HideFinding();
   void SelectAll();
   void DeleteSelected();  ///< with the question of AskDelete
   void InvertSelection();
@@ -177,6 +182,7 @@ private:
   ModeContext m_context;
   std::unique_ptr<ToolMode> m_mode;
   std::unique_ptr<Gesture> m_gesture;
+  std::optional<Finding> m_finding;  ///< marked on the canvas
   PointerInput m_lastPointer;
   std::function<void(const PointerInput&)> m_pick;  ///< waits for the next press
   std::string m_hint;

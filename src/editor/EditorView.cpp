@@ -50,6 +50,17 @@ void Editor::GoTo(LatLon center) {
   AfterViewChange();
 }
 
+void Editor::ShowFinding(const Finding& finding) {
+  m_finding = finding;
+  GoTo(finding.At);
+}
+
+void Editor::HideFinding() {
+  if (!m_finding) return;
+  m_finding.reset();
+  m_display.RedrawTop();
+}
+
 void Editor::SetGrid(int lod) {
   m_session.view.GridLod = lod;
   m_session.view.FillSize = FillSizeOfGrid(lod);

@@ -6,6 +6,7 @@
 // the picture is the same to the pixel.
 #pragma once
 
+#include "compile/Findings.h"
 #include "core/Project.h"
 #include "core/Settings.h"
 #include "editor/GeometryIndex.h"
@@ -56,5 +57,9 @@ void DisplayLines(Surface& surface, const PaintInput& in, std::vector<std::uint8
 void DisplayObjects(Surface& surface, const PaintInput& in);
 void DisplayGrid(Surface& surface, const PaintInput& in);
 void DisplayAircraft(Surface& surface, const PaintInput& in);
+/// On top of all layers, in a colour that no item has by itself: the item's outline, if it still exists, and
+/// a circle round the place.
+void PaintFinding(Surface& surface, const Finding& finding, const ProjectState& project,
+                  const ViewState& view);
 
 }  // namespace landsmith

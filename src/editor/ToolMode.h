@@ -88,7 +88,7 @@ public:
   /// May return a drag that the canvas then owns.
   virtual std::unique_ptr<Gesture> Press(const PointerInput& in) = 0;
   virtual void Hover(const PointerInput&) {}
-  virtual void HoverEnd() {}  ///< the mouse is no longer over the canvas
+  virtual void HoverEnd() {}                           ///< the mouse is no longer over the canvas
   virtual bool Key(const KeyInput&) { return false; }  ///< true: used
   virtual void Tick(TimerId) {}
   virtual CursorShape Cursor() const { return CursorShape::Arrow; }

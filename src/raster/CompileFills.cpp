@@ -12,7 +12,7 @@ namespace {
 GeoBox HeaderBounds(const ProjectState& project) {
   GeoBox bounds;
   for (std::size_t i = 1; i < project.Fills.size(); ++i)
-    bounds.Add(project.Fills[i].Box);
+    if (project.Fills[i].Selected) bounds.Add(project.Fills[i].Box);
   return bounds;
 }
 

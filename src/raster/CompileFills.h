@@ -8,9 +8,9 @@
 
 namespace landsmith {
 
-/// The text of the selected fills; nothing without one. Its header tells the extremes of all fills of the
-/// project but the first, selected or not, as files of this kind always have. Throws RuntimeError that names
-/// a fill that no statement can name.
+/// The text of the selected fills; nothing without one. Its header tells their extremes, leaving out the
+/// first fill of the project even when it is selected, as files of this kind always have. Throws RuntimeError
+/// that names a fill that no statement can name.
 std::optional<std::string> FillSource(const ProjectState& project, const AppSettings& settings);
 
 /// Base name "FILLS_" + project + "_LWM2". With nothing to write no file is made, no tool runs, and a message

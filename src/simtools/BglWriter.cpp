@@ -33,6 +33,16 @@ void WriteBlock(ByteWriter& out, std::uint32_t section, std::string_view block) 
 
 }  // namespace
 
+std::string BlockOf(std::uint32_t format, const std::string& first, const std::string& second) {
+  ByteWriter out;
+  out.U32(bgl::BlockSize);
+  out.U32(format);
+  out.U32(bgl::BlockSize);
+  out.U32(static_cast<std::uint32_t>(bgl::BlockSize + first.size()));
+  out.U32(0);
+  return out.Take() + first + second;
+}
+
 std::string WriteBgl(const BglHeader& header, const BglBlocks& blocks) {
   ByteWriter out;
   out.U16(header.World);

@@ -19,6 +19,13 @@ struct BglBlocks {
   std::string Vtp;
 };
 
+constexpr std::uint8_t LowByte(std::uint32_t value) {
+  return static_cast<std::uint8_t>(value & 255U);
+}
+
+/// A block of two parts: its head says where each begins.
+std::string BlockOf(std::uint32_t format, const std::string& first, const std::string& second);
+
 /// The whole file. Without any block the header names no section table.
 std::string WriteBgl(const BglHeader& header, const BglBlocks& blocks);
 

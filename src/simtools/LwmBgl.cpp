@@ -2,16 +2,13 @@
 
 #include "core/Bytes.h"
 #include "simtools/BglLayout.h"
+#include "simtools/BglWriter.h"
 
 namespace landsmith::simtools {
 
 namespace {
 
 constexpr std::uint32_t LandType = 1, FlattenType = 2, WaterOrLandType = 3;
-
-constexpr std::uint8_t LowByte(std::uint32_t value) {
-  return static_cast<std::uint8_t>(value & 255U);
-}
 
 void WriteAltitude(ByteWriter& out, std::int32_t altitude) {
   const auto part = static_cast<std::uint32_t>(altitude) % bgl::AltitudeParts;
@@ -104,15 +101,7 @@ std::string LwmBlock(const LwmFile& file) {
     table.U32(static_cast<std::uint32_t>(start));
     table.U32(static_cast<std::uint32_t>(data.Size() - start));
   }
-  ByteWriter out;
-  out.U32(bgl::BlockSize);
-  out.U32(file.Format);
-  out.U32(bgl::BlockSize);
-  out.U32(static_cast<std::uint32_t>(bgl::BlockSize + table.Size()));
-  out.U32(0);
-  out.Bytes(table.Content());
-  out.Bytes(data.Content());
-  return out.Take();
+  return BlockOf(file.Format, table.Take(), data.Take());
 }
 
 }  // namespace landsmith::simtools

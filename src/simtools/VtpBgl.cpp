@@ -2,16 +2,13 @@
 
 #include "core/Bytes.h"
 #include "simtools/BglLayout.h"
+#include "simtools/BglWriter.h"
 
 #include <algorithm>
 
 namespace landsmith::simtools {
 
 namespace {
-
-constexpr std::uint8_t LowByte(std::uint32_t value) {
-  return static_cast<std::uint8_t>(value & 255U);
-}
 
 void WriteCount(ByteWriter& out, std::size_t value) {
   const auto count = static_cast<std::uint32_t>(value);
@@ -129,16 +126,7 @@ std::string TextureList(const std::vector<VtpTextureEntry>& textures) {
 }  // namespace
 
 std::string VtpBlock(const VtpFile& file) {
-  const std::string cells = CellList(file.Cells);
-  ByteWriter out;
-  out.U32(bgl::BlockSize);
-  out.U32(file.Format);
-  out.U32(bgl::BlockSize);
-  out.U32(static_cast<std::uint32_t>(bgl::BlockSize + cells.size()));
-  out.U32(0);
-  out.Bytes(cells);
-  out.Bytes(TextureList(file.Textures));
-  return out.Take();
+  return BlockOf(file.Format, CellList(file.Cells), TextureList(file.Textures));
 }
 
 }  // namespace landsmith::simtools

@@ -170,6 +170,10 @@ TEST(FindingsOfPolys, ShapesFieldsAndAltitudes) {
       {"touching on the grid", "LWM//Land//10//10//1//1//", Dip, {}},
       {"no such kind", "LWM//Sea//10//10//1//1//", Square, {"error The polygon is to be land"}},
       {"a word for an altitude", "LWM//Land//10//low//1//1//", Square, {"error The altitude \"low\""}},
+      {"an altitude below all ground",
+       "LWM//Land//10//-32769//1//1//",
+       Square,
+       {"error The altitude -32769 m"}},
       {"level with a vertex that is not",
        "LWM//Land//10//10//1//1//",
        Ramp,
@@ -192,7 +196,7 @@ TEST(FindingsOfPolys, ShapesFieldsAndAltitudes) {
        "LWM//Land//20//10//2//2//",
        Ramp,
        {"error The slope from 20 m to 10 m begins and ends at one place"}},
-      {"above the sky", "LWM//Land//40000//40000//1//1//", Square, {"error The altitude 40000 m is not"}},
+      {"above the sky", "LWM//Land//40000//40000//1//1//", Square, {"error The altitude 40000 m is farther"}},
       {"round the world",
        "LWM//Water//10//10//1//1//",
        {{-3e6, 4e4}, {3e6, 4e4}, {3e6, -4e4}, {-3e6, -4e4}},
@@ -241,6 +245,24 @@ TEST(FindingsOfPolys, ShapesFieldsAndAltitudes) {
   for (const auto& row : rows) {
     ExpectFindings(Check(PolyInSteps(row.type, row.places)), row.expected, row.name);
   }
+}
+
+/// A comb in one Area: a tooth has four vertices, its back two.
+std::vector<InSteps> Comb(int teeth) {
+  std::vector<InSteps> ring;
+  for (int x = 10; x < 10 + 2 * teeth; x += 2)
+    for (const InSteps& at : {InSteps{0, 60}, InSteps{0, 200}, InSteps{1, 200}, InSteps{1, 60}})
+      ring.push_back({x + at.x, at.y});
+  ring.push_back({10.0 + 2 * teeth, 20});
+  ring.push_back({10, 20});
+  return ring;
+}
+
+TEST(FindingsOfPolys, PiecesOfAMaskThatTheToolTakes) {
+  const Expected tooLarge{"error The polygon has 322 points in one Area"};
+  ExpectFindings(Check(PolyInSteps("LWM//Land//10//10//1//1//", Comb(79))), {}, "318 points");
+  ExpectFindings(Check(PolyInSteps("LWM//Land//10//10//1//1//", Comb(80))), tooLarge, "322 points");
+  ExpectFindings(Check(PolyInSteps("VTP//4//12//", Comb(80))), {}, "no mask");
 }
 
 FillRec AFillOf(std::uint8_t size, std::uint8_t type, std::uint8_t col, float height) {

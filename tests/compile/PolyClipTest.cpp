@@ -155,24 +155,6 @@ TEST(PolyClip, BothWalksAgreeOnCleanSquares) {
   EXPECT_GT(compared, 3000);
 }
 
-TEST(PolyClip, RingsThatCrossThemselvesStayInTheirBox) {
-  std::mt19937 random(5);
-  std::uniform_real_distribution<double> place(-300, 600);
-  for (int round = 0; round < 100; ++round) {
-    Places noise;
-    for (int k = 0; k < 3 + round; ++k)
-      noise.emplace_back(place(random), place(random));
-    const ClippedPoly clipped = ClipPolyToAreas(Ring(noise), nullptr);
-    EXPECT_LE(clipped.Points.size(), 40 * noise.size() + 200);
-    for (const PolyPiece& piece : clipped.Pieces) {
-      const std::int32_t col = (piece.CellX - CellCol) * 32 + piece.AreaX;
-      EXPECT_TRUE(col >= -2 && col <= 2);
-      for (const PiecePoint& point : clipped.PointsOf(piece))
-        EXPECT_TRUE(point.X >= 0 && point.X <= 255 && point.Y >= 0 && point.Y <= 255);
-    }
-  }
-}
-
 TEST(PolyClip, PlacesOffTheEarthAreNamed) {
   for (const auto& [lat, lon] : {std::pair(91.0, 0.0), std::pair(0.0, 181.0),
                                  std::pair(std::numeric_limits<double>::quiet_NaN(), 0.0)}) {

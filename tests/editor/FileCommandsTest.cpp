@@ -173,16 +173,6 @@ INSTANTIATE_TEST_SUITE_P(Commands, DropsChanges,
                                          DropRow{"Recent", [](EditorRig& rig) { rig.editor.OpenRecent(0); }}),
                          [](const auto& row) { return row.param.name; });
 
-TEST_F(FileCommands, ExitAsksOnlyWhenSomethingWouldBeLost) {
-  EXPECT_TRUE(editor.MayClose());
-  session.project.Dirty = true;
-  EXPECT_FALSE(editor.MayClose());
-  dialogs.answers = {true};
-  EXPECT_TRUE(editor.MayClose());
-  EXPECT_EQ(dialogs.questions,
-            std::vector<std::string>(2, "You did not save your data! Really want to exit ?"));
-}
-
 TEST_F(FileCommands, ANewProjectLivesOnceItsPropertiesAreAccepted) {
   WriteIniKey(Ini(), "Main", "LatLandCenter", "51.5");
   WriteIniKey(Ini(), "Main", "ClassGridVIEW", "True");
@@ -216,14 +206,6 @@ TEST_F(FileCommands, ANewProjectLivesOnceItsPropertiesAreAccepted) {
   EXPECT_EQ(session.view.LonDispCenter, 5);
   EXPECT_DOUBLE_EQ(session.view.Classes.LandNorth, ClassWindowOf(60, 5).LandNorth);
   EXPECT_FALSE(session.project.Dirty);
-}
-
-TEST_F(FileCommands, AtTheStartNoDialogOpens) {
-  editor.NewProject(true);
-  EXPECT_EQ(host.propertiesShown, 0);
-  EXPECT_FALSE(editor.HasProject());
-  Click({0, 0}, MouseButton::Right);
-  EXPECT_TRUE(host.menus.empty()) << "the canvas is dead";
 }
 
 TEST_F(FileCommands, AppendingKeepsTheViewAndCountsAsSaved) {

@@ -178,23 +178,6 @@ TYPED_TEST(PathModeTest, ShiftAddsFiguresAndBeginsNone) {
   EXPECT_EQ(forms[0], std::nullopt);
 }
 
-TYPED_TEST(PathModeTest, CtrlDragsABoxAroundFiguresOfTheKindAlone) {
-  this->Add({{-100, 0}, {100, 0}, {100, 10}});
-  this->Add({{-100, 50}, {150, 50}, {100, 60}});
-  this->AddObject({0, 30}, 4);
-  for (const MouseButton button : {MouseButton::Left, MouseButton::Right}) {
-    this->ctrl = true;
-    this->Press({-120, -20}, button).MoveTo({150, 80}).Release();
-    this->ctrl = false;
-    EXPECT_TRUE(this->Paths()[0].Selected);
-    EXPECT_FALSE(this->Paths()[1].Selected) << "it touches the border of the box";
-    EXPECT_EQ(this->Selected(), 1);
-    EXPECT_TRUE(this->host.menus.empty());
-    this->Press({-120, 180}).MoveTo({150, 200}).Release();
-    this->Key(Escape);
-  }
-}
-
 class LineModeTest : public PathModeTest<LineRec> {};
 
 TEST_F(LineModeTest, TheRubberSegmentFollowsTheMouseWhileDrawing) {

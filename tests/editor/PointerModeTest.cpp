@@ -14,23 +14,6 @@ protected:
   }
 };
 
-TEST_F(PointerModeTest, AVertexWinsOverALineAndAClickOnNothingClears) {
-  Click({2, 3});
-  EXPECT_TRUE(Lines()[0].Points[1].Selected);
-  EXPECT_FALSE(Lines()[0].Selected);
-  Click({50, 2});
-  EXPECT_TRUE(Lines()[0].Selected);
-  EXPECT_FALSE(Lines()[0].Points[1].Selected);
-  EXPECT_EQ(Selected(), 1);
-  shift = true;
-  Click({50, 60});
-  EXPECT_EQ(Selected(), 2);
-  shift = false;
-  Click({0, 200});
-  EXPECT_EQ(Selected(), 0);
-  EXPECT_FALSE(Lines()[1].Selected);
-}
-
 TEST_F(PointerModeTest, ADragMovesTheSelectionAndOnlyItsLayersAreOnTheOverlay) {
   Press({50, 0});
   EXPECT_TRUE(session.view.Pending(LayerKind::Lines));
@@ -94,13 +77,6 @@ TEST_F(PointerModeTest, DeletingAsksOnceAndCountsItems) {
   EXPECT_EQ(dialogs.questions.size(), 2U);
 }
 
-TEST_F(PointerModeTest, RTurnsTheNextLeftClickIntoARightOne) {
-  editor.KeyUp({'R', false, false, false});
-  Click({50, 60}).Click({50, 60});
-  EXPECT_EQ(host.menus.size(), 1U);
-  EXPECT_TRUE(Lines()[1].Selected);
-}
-
 TEST_F(PointerModeTest, WheelStepsNeedAWholeNotchAndNoKey) {
   const auto wheel = [&](int delta) { editor.Wheel(delta, Pointer({100, 0}, MouseButton::None)); };
   wheel(120);
@@ -130,22 +106,6 @@ TEST_F(PointerModeTest, HidingAKindClearsItsSelection) {
   EXPECT_EQ(Selected(), 0) << "what is hidden is not hit";
   editor.ToggleShown(LayerKind::Lines);
   EXPECT_TRUE(session.view.Shows(LayerKind::Lines));
-}
-
-TEST_F(PointerModeTest, ViewAllLeavesTheKindOfTheModeAlone) {
-  editor.SelectAll();
-  editor.ToggleViewAll();
-  EXPECT_EQ(Selected(), 0);
-  EXPECT_FALSE(session.view.Shows(LayerKind::Lines)) << "the pointer edits no kind";
-  EXPECT_TRUE(session.view.Shows(LayerKind::Grid));
-  editor.ToggleViewAll();
-  EXPECT_EQ(session.view.ShowFlag, ViewState().ShowFlag);
-  editor.ChooseMode(ModeId::Line);
-  editor.ToggleViewAll();
-  EXPECT_TRUE(session.view.Shows(LayerKind::Lines));
-  EXPECT_FALSE(session.view.Shows(LayerKind::Polys));
-  editor.ShowAll();
-  EXPECT_FALSE(session.tool.ViewAllOn);
 }
 
 TEST_F(PointerModeTest, SelectAllNeverTakesMapsAndToggles) {

@@ -128,7 +128,7 @@ TEST_F(CompileDialog, FindingsAreListedAndLeadToTheirPlaces) {
   AddFaultyItems(rig.session.project);
   frmBGL dialog(rig.session, rig.display, nullptr);
   std::vector<LatLon> places;
-  QObject::connect(&dialog, &frmBGL::GoTo, [&](LatLon at) { places.push_back(at); });
+  QObject::connect(&dialog, &frmBGL::GoTo, [&](const Finding& finding) { places.push_back(finding.At); });
   dialog.show();
   auto& list = Find<QTreeWidget>(dialog, "lstFindings");
   ASSERT_EQ(list.topLevelItemCount(), 2);
@@ -154,7 +154,12 @@ TEST_F(CompileDialog, FindingsAreListedAndLeadToTheirPlaces) {
   EXPECT_TRUE(Find<QWidget>(dialog, "cmdCompile").isEnabled());
 }
 
-TEST(CompileDialogInWindow, GoToShowsThePlaceBesideTheDialogAndKeepsTheSelection) {
+/// The circle round the place, which stands in the middle of the canvas.
+bool ShowsFindingMark(const WindowRig& rig) {
+  return rig.canvas->grab().toImage().pixelColor(rig.FromCentre(16, 0)) == QColor(230, 0, 126);
+}
+
+TEST(CompileDialogInWindow, GoToMarksThePlaceBesideTheDialogAndKeepsTheSelection) {
   WindowRig rig;
   rig.ShowProject();
   AddFaultyItems(rig.session.project);
@@ -166,11 +171,14 @@ TEST(CompileDialogInWindow, GoToShowsThePlaceBesideTheDialogAndKeepsTheSelection
     list.setCurrentItem(list.topLevelItem(1));
     Press(*dialog, "cmdGoTo");
     EXPECT_TRUE(dialog->isVisible());
+    EXPECT_EQ(dialog->focusWidget(), &list) << "the next finding is not an arrow key away";
+    EXPECT_TRUE(ShowsFindingMark(rig));
     asked = true;
     dialog->close();
   });
   rig.Action("mnuFBGL").trigger();
   ASSERT_TRUE(asked);
+  EXPECT_FALSE(ShowsFindingMark(rig));
   EXPECT_NEAR(rig.session.view.LatDispCenter, 47.005, 1e-4);
   EXPECT_NEAR(rig.session.view.LonDispCenter, 8.01, 1e-4);
   EXPECT_TRUE(rig.session.project.Lines[0].Selected);

@@ -120,17 +120,6 @@ TEST_F(MainWindow, TheGridMenuMarksOneLevel) {
   EXPECT_EQ(rig.session.view.GridLod, 8);
 }
 
-TEST_F(MainWindow, KindsAreHiddenAndShown) {
-  rig.ShowProject();
-  EXPECT_TRUE(rig.Action("mnuVLines").isChecked());
-  rig.Action("mnuVLines").trigger();
-  EXPECT_FALSE(rig.session.view.Shows(LayerKind::Lines));
-  EXPECT_FALSE(rig.Action("mnuVLines").isChecked());
-  EXPECT_FALSE(rig.Action("mnuSLines").isEnabled());
-  rig.Button("Line").click();  // its tool needs them
-  EXPECT_TRUE(rig.Action("mnuVLines").isChecked());
-}
-
 TEST_F(MainWindow, ShowAllLeavesTheKindOfTheModeAloneAndBringsTheOthersBack) {
   rig.ShowProject("Line");
   EXPECT_TRUE(rig.Action("mnuVAll").isChecked());
@@ -180,6 +169,7 @@ TEST_F(MainWindow, ClosingAsksAboutUnsavedData) {
     rig.dialogs.answers = {answer};
     EXPECT_EQ(rig.window->close(), answer);
     EXPECT_EQ(rig.window->isVisible(), !answer);
+    EXPECT_EQ(rig.dialogs.questions.back(), "You did not save your data! Really want to exit ?");
   }
 }
 
@@ -264,15 +254,6 @@ TEST_F(MainWindow, AProjectFileCanBeDropped) {
   EXPECT_TRUE(Drop(*rig.window, other));  // the question is answered No
   EXPECT_EQ(Caption(), "DROPPED  Landsmith");
   EXPECT_EQ(rig.dialogs.questions.back(), "You did not save your data! Continue ?");
-}
-
-TEST_F(MainWindow, TheMenuTreeHasTheLaterCommandsSwitchedOff) {
-  rig.ShowProject();
-  for (const char* name :
-       {"mnuFImport", "mnuFExport", "mnuFAppend", "mnuFAPolish", "mnuFALWMBGL", "mnuFAVTPBGL", "mnuFESurfer",
-        "mnuFBSQVIEW", "mnuFDTED22BSQ", "mnuFHGT2BSQ", "mnuFBMP2BSQ", "mnuFBSQ2BMP", "mnuFBSQCROP",
-        "mnuFBSQMERGE", "mnuFBSQUPDOWN", "mnuFBSQPROCESS", "mnuFCoordTransf", "mnuVfromFS", "mnuVforFS"})
-    EXPECT_FALSE(rig.Action(name).isEnabled()) << name;
 }
 
 TEST_F(MainWindow, TheBitmapsOfTheMapsAreChosenInTheViewMenu) {

@@ -67,23 +67,6 @@ TEST(LwmBgl, HasTheBytesOfTheLayout) {
             }));
 }
 
-TEST(LwmBgl, GivesBackASlopeWithItsAltitudes) {
-  const LwmFileRead file = landsmith::test::ReadLwmFile(Compile(test::OneSlope));
-  EXPECT_TRUE(file.AltPerPoint);
-  EXPECT_NEAR(file.LatCenter, -34.5, 1e-9);
-  EXPECT_NEAR(file.LonCenter, -70.5, 1e-6);
-  ASSERT_EQ(file.Cells.size(), 1U);
-  EXPECT_EQ(file.Cells[0].FillType, 2);
-  ASSERT_EQ(file.Cells[0].Pieces.size(), 1U);
-  const LwmPieceRead& piece = file.Cells[0].Pieces[0];
-  EXPECT_EQ(piece.Kind, LwmKindRead::Flatten);
-  EXPECT_EQ(piece.AreaY, 31);
-  EXPECT_EQ(piece.AltMin, -0.25);
-  EXPECT_EQ(piece.AltMax, 100);
-  ASSERT_EQ(piece.Points.size(), 3U);
-  EXPECT_EQ(piece.Points[1], (LwmPointRead{255, 0, 128, static_cast<float>(-0.25 + 128 * 100.25 / 255)}));
-}
-
 TEST(LwmBgl, GivesBackFillsOfEverySize) {
   const LwmFileRead file = CompileCell(
       "LWMAreaFill( 16 2 1 0 -1.25 ) LWMAreaFill( 8 0 3 2 8 ) LWMAreaFill( 4 1 7 7 )\n"

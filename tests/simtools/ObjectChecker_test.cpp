@@ -7,6 +7,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <string>
+
 namespace landsmith::simtools {
 
 using test::ExpectFaults;
@@ -64,7 +66,7 @@ TEST(ObjectFaults, AreReportedWithLineAndReason) {
 
 TEST(ContentOf, NamesWhatIsWritten) {
   const struct {
-    const char* source;
+    std::string source;
     const char* content;
   } rows[] = {
       {TwoSurfaces, "section for such a source; 2 textured polygons checked"},

@@ -1,3 +1,4 @@
+#include "support/PolyGenerators.h"
 #include "vector/ConvexParts.h"
 #include "vector/Triangulation.h"
 
@@ -5,8 +6,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
-#include <random>
 
 namespace landsmith {
 namespace {
@@ -148,169 +147,109 @@ Triangulation SlowTriangles(const std::vector<LatLon>& ring) {
   return result;
 }
 
-std::int64_t TurnOf(CellPoint a, CellPoint b, CellPoint c) {
-  return std::int64_t{b.X - a.X} * (c.Y - b.Y) - std::int64_t{b.Y - a.Y} * (c.X - b.X);
+test::LatticeRing OnLattice(const Ring& ring) {
+  test::LatticeRing lattice;
+  for (const CellPoint& at : ring)
+    lattice.push_back({at.X, at.Y});
+  return lattice;
 }
 
-std::int64_t TwiceArea(const Ring& ring) {
-  std::int64_t sum = 0;
-  for (std::size_t k = 2; k < ring.size(); ++k)
-    sum += TurnOf(ring[0], ring[k - 1], ring[k]);
-  return sum;
+/// Counted from its first point.
+Ring InCell(const test::LatticeRing& lattice) {
+  Ring ring;
+  for (const test::LatticePoint& at : lattice)
+    ring.push_back(
+        {static_cast<std::int32_t>(at.X - lattice[0].X), static_cast<std::int32_t>(at.Y - lattice[0].Y)});
+  return ring;
 }
 
-class RingMaker {
-public:
-  explicit RingMaker(unsigned seed) : m_chance(seed) {}
+test::LatticeRing Scatter(test::Chance& chance, std::int64_t vertices, std::int64_t side) {
+  test::LatticeRing ring;
+  for (; vertices > 0; --vertices)
+    ring.push_back({chance.Between(0, side), chance.Between(0, side)});
+  return ring;
+}
 
-  int Whole(int low, int high) { return std::uniform_int_distribution(low, high)(m_chance); }
-
-  Ring Scatter(int vertices, int side) {
-    Ring ring;
-    for (int k = 0; k < vertices; ++k)
-      ring.push_back({Whole(0, side), Whole(0, side)});
-    return ring;
+/// Clockwise, with points in the middle of some edges.
+Ring WithMiddles(const test::LatticeRing& ring, test::Chance& chance) {
+  test::LatticeRing finer;
+  for (std::size_t k = 0; k < ring.size(); ++k) {
+    const test::LatticePoint a = ring[k], b = ring[(k + 1) % ring.size()];
+    finer.push_back({2 * a.X, 2 * a.Y});
+    if (chance.OneIn(3)) finer.push_back({a.X + b.X, a.Y + b.Y});
   }
-
-  /// Scattered points, the way through them untangled.
-  Ring Tangle(int vertices, int side) {
-    Ring ring = Scatter(vertices, side);
-    const auto crosses = [&](std::size_t i, std::size_t j) {
-      const CellPoint a = ring[i], b = ring[i + 1], c = ring[j], d = ring[(j + 1) % ring.size()];
-      return (TurnOf(a, b, c) > 0) != (TurnOf(a, b, d) > 0) && (TurnOf(c, d, a) > 0) != (TurnOf(c, d, b) > 0);
-    };
-    for (int tries = 0, found = 1; found > 0 && tries < 300; ++tries) {
-      found = 0;
-      for (std::size_t i = 0; i + 2 < ring.size(); ++i)
-        for (std::size_t j = i + 2; j < ring.size() - (i == 0 ? 1 : 0); ++j)
-          if (crosses(i, j)) {
-            std::reverse(ring.begin() + static_cast<std::ptrdiff_t>(i) + 1,
-                         ring.begin() + static_cast<std::ptrdiff_t>(j) + 1);
-            ++found;
-          }
-    }
-    return ring;
-  }
-
-  Ring Star(int vertices, double size) {
-    Ring ring;
-    for (int k = 0; k < vertices; ++k)
-      ring.push_back(OnCircle(static_cast<double>(k) / vertices, size * Whole(2, 100) / 100));
-    return ring;
-  }
-
-  Ring Spiral(int vertices) {
-    Ring ring;
-    for (int k = 0; k < vertices; ++k)
-      ring.push_back(OnCircle(2.0 * k / vertices, 1000 + 1500.0 * k / vertices));
-    for (int k = vertices; --k >= 0;)
-      ring.push_back(OnCircle(2.0 * k / vertices, 1200 + 1500.0 * k / vertices));
-    return ring;
-  }
-
-  /// Slots of random depth, on the lattice of an author's rectangles.
-  Ring Comb(int teeth, int step) {
-    Ring ring;
-    for (int k = 0; k < teeth; ++k)
-      for (const CellPoint at :
-           {CellPoint{2 * k, 0}, {2 * k + 1, 0}, {2 * k + 1, Whole(1, 3)}, {2 * k + 2, 1}})
-        ring.push_back({at.X * step, at.Y * step});
-    ring.push_back({2 * teeth * step, 4 * step});
-    ring.push_back({0, 4 * step});
-    return ring;
-  }
-
-  /// As well with points in the middle of edges, clockwise, begun anywhere.
-  Ring Finish(Ring ring, bool middles) {
-    if (TwiceArea(ring) < 0) std::reverse(ring.begin(), ring.end());
-    Ring finer;
-    for (std::size_t k = 0; middles && k < ring.size(); ++k) {
-      const CellPoint a = ring[k], b = ring[(k + 1) % ring.size()];
-      finer.push_back({2 * a.X, 2 * a.Y});
-      if (Whole(0, 2) == 0) finer.push_back({a.X + b.X, a.Y + b.Y});
-    }
-    if (middles) ring = finer;
-    std::rotate(ring.begin(), ring.begin() + Whole(0, static_cast<int>(ring.size()) - 1), ring.end());
-    return ring;
-  }
-
-private:
-  static CellPoint OnCircle(double turn, double radius) {
-    const double angle = 2 * std::numbers::pi * turn;
-    return {static_cast<int>(std::lround(8160 + radius * std::cos(angle))),
-            static_cast<int>(std::lround(8160 + radius * std::sin(angle)))};
-  }
-  std::mt19937 m_chance;
-};
+  if (test::TwiceArea(finer) < 0) std::reverse(finer.begin(), finer.end());
+  return InCell(finer);
+}
 
 /// What is cut off a ring, and what is left, wind about a point as often together as the ring did. So convex
 /// parts that run clockwise and have its area tile it.
 bool Tiles(const std::vector<ConvexPart>& parts, const Ring& ring) {
   std::int64_t area = 0;
   for (const ConvexPart& part : parts) {
-    area += TwiceArea(part);
-    for (std::size_t k = 0; k < part.size(); ++k)
-      for (const CellPoint& other : part)
-        if (TurnOf(part[k], part[(k + 1) % part.size()], other) < 0) return false;
+    const test::LatticeRing corners = OnLattice(part);
+    area += test::TwiceArea(corners);
+    for (std::size_t k = 0; k < corners.size(); ++k)
+      for (const test::LatticePoint& other : corners)
+        if (test::Turn(corners[k], corners[(k + 1) % corners.size()], other) < 0) return false;
   }
-  return area == TwiceArea(ring);
+  return area == test::TwiceArea(OnLattice(ring));
 }
 
-void ExpectTiledByTriangles(const Ring& ring, const std::vector<LatLon>& plane) {
+void ExpectTiled(const Ring& ring, const std::vector<LatLon>& plane) {
+  EXPECT_TRUE(Tiles(DecomposeConvex(ring), ring));
   const Triangulation result = TriangulateRing(plane);
   EXPECT_FALSE(result.HasFault);
   ASSERT_EQ(result.Triangles.size(), ring.size() - 2);
-  const auto at = [&](std::int32_t v) { return ring[static_cast<std::size_t>(v)]; };
+  const test::LatticeRing corners = OnLattice(ring);
+  const auto at = [&](std::int32_t v) { return corners[static_cast<std::size_t>(v)]; };
   for (const Triangle& t : result.Triangles)
-    ASSERT_GE(TurnOf(at(t.A), at(t.B), at(t.C)), 0);
+    ASSERT_GE(test::Turn(at(t.A), at(t.B), at(t.C)), 0);
 }
 
 TEST(RingPieces, AreThoseOfTheSlowSearch) {
-  RingMaker make(1);
-  for (int k = 0; k < 300; ++k) {
-    const bool middles = k % 2 == 1;
-    const int size = make.Whole(3, 40);
-    const Ring sound[] = {make.Star(size, 4000), make.Spiral(size / 2 + 20),
-                          make.Comb(size / 3 + 1, make.Whole(1, 100)), make.Tangle(size / 2 + 3, 8160)};
-    const Ring odd[] = {make.Tangle(size / 2 + 3, 8), make.Star(size, 12), make.Scatter(size / 2 + 3, 6)};
-    const double step = 1e-4 * make.Whole(1, 99);
+  for (std::uint64_t seed = 1; seed <= 1500; ++seed) {
+    test::Chance chance(seed);
+    const double step = 1e-4 * chance.Real(0.1, 1);
     const auto compare = [&](const Ring& ring) {
-      SCOPED_TRACE(testing::Message() << "round " << k << ", " << ring.size() << " vertices");
+      SCOPED_TRACE(testing::Message() << "seed " << seed << ", " << ring.size() << " vertices");
       const auto parts = DecomposeConvex(ring), slowParts = SlowConvexParts(ring);
-      EXPECT_TRUE(parts == slowParts || (Tiles(parts, ring) && !Tiles(slowParts, ring)));
+      EXPECT_TRUE(parts == slowParts || !Tiles(slowParts, ring));
       for (const auto& plane : {ToPlane(ring), ToPlane(ring, {47.3, 8.1}, step)}) {
         const Triangulation ours = TriangulateRing(plane), slow = SlowTriangles(plane);
         EXPECT_LE(ours.HasFault, slow.HasFault);
         EXPECT_TRUE(ours.HasFault != slow.HasFault || ours.Triangles == slow.Triangles);
       }
     };
-    for (const Ring& raw : sound) {
-      const Ring ring = make.Finish(raw, middles);
-      compare(ring);
-      EXPECT_TRUE(Tiles(DecomposeConvex(ring), ring));
-      ExpectTiledByTriangles(ring, ToPlane(ring));
-      ExpectTiledByTriangles(ring, ToPlane(ring, {47.3, 8.1}, step));
-    }
-    for (const Ring& raw : odd)
-      compare(make.Finish(raw, middles));
+    const test::LatticeRing sound = test::MakeRandomPoly(seed, test::PointsPerArea).Snapped;
+    if (sound.size() > 60) continue;  // the slow search takes the cube of it
+    const Ring ring = chance.OneIn(2) ? InCell(sound) : WithMiddles(sound, chance);
+    compare(ring);
+    ExpectTiled(ring, ToPlane(ring));
+    ExpectTiled(ring, ToPlane(ring, {47.3, 8.1}, step));
+    // Rings that cross and touch themselves.
+    const std::int64_t vertices = chance.Between(4, 22);
+    compare(WithMiddles(Scatter(chance, vertices, 6), chance));
+    compare(WithMiddles(test::generators::Untangled(Scatter(chance, vertices, 8)), chance));
     if (HasFailure()) return;
   }
 }
 
 TEST(RingPieces, OfLongRingsTileThem) {
-  RingMaker make(2);
-  for (const Ring& raw : {make.Star(5000, 100000), make.Comb(2000, 20), make.Spiral(300)}) {
-    const Ring ring = make.Finish(raw, false);
-    EXPECT_TRUE(Tiles(DecomposeConvex(ring), ring));
-    ExpectTiledByTriangles(ring, ToPlane(ring, {-33.1, 151.2}, 1e-5));
+  for (const std::uint64_t seed : {1U, 2U}) {
+    test::Chance chance(seed);
+    test::LatticeRing coast = test::generators::CoastOf(chance, 5000, 20000, 0.2);
+    if (test::TwiceArea(coast) < 0) std::reverse(coast.begin(), coast.end());
+    ASSERT_TRUE(test::IsSimple(coast)) << seed;
+    const Ring ring = InCell(coast);
+    ExpectTiled(ring, ToPlane(ring, {-33.1, 151.2}, 1e-5));
   }
 }
 
 TEST(RingPieces, OfARingWithABridgeToItsIslandTileIt) {
   const Ring ring = {{1397, 151},  {1047, 868},  {1093, 1053}, {1085, 956}, {1047, 868}, {1397, 151},
                      {1410, 1079}, {1112, 1148}, {782, 400},   {508, 340},  {772, 294},  {1238, 226}};
-  EXPECT_TRUE(Tiles(DecomposeConvex(ring), ring));
-  ExpectTiledByTriangles(ring, ToPlane(ring));
+  ExpectTiled(ring, ToPlane(ring));
 }
 
 TEST(ConvexParts, KnownRings) {

@@ -16,7 +16,7 @@ namespace {
 
 constexpr int MillisecondsAtOnce = 30;
 /// Longer names of items are cut off, for the findings' sake.
-constexpr int MostTitleLetters = 30;
+constexpr int MostTitleLetters = 27;
 
 QString ItemTitle(const ProjectState& project, const Finding& finding) {
   if (finding.Kind == FillFinding) return FindingList::tr("Fill %1").arg(finding.Item + 1);
@@ -76,9 +76,10 @@ void FindingList::ShowNewFindings() {
     const bool isError = finding.Severity == FindingSeverity::Error;
     auto* row = new QTreeWidgetItem({ItemTitle(m_project, finding), ToQString(finding.Text)});
     row->setIcon(0, isError ? error : warning);
-    row->setToolTip(0,
-                    isError ? tr("The compiler will fail.") : tr("The scenery will not be what is drawn."));
-    row->setData(0, Qt::AccessibleDescriptionRole, row->toolTip(0));
+    const QString meaning =
+        isError ? tr("The compiler will fail.") : tr("The scenery will not be what is drawn.");
+    row->setToolTip(0, row->text(0) + '\n' + meaning);
+    row->setData(0, Qt::AccessibleDescriptionRole, meaning);
     row->setToolTip(1, row->text(1));
     rows.push_back(row);
   }
@@ -108,7 +109,9 @@ void FindingList::ShowSummary() {
 
 void FindingList::GoToCurrent() {
   const int row = m_controls.list->indexOfTopLevelItem(m_controls.list->currentItem());
-  if (row >= 0) emit GoTo(m_findings[static_cast<std::size_t>(row)].At);
+  if (row < 0) return;
+  emit GoTo(m_findings[static_cast<std::size_t>(row)]);
+  m_controls.list->setFocus();  // the next one is an arrow key away
 }
 
 }  // namespace landsmith

@@ -33,7 +33,7 @@ public:
 
 signals:
   /// The user wants to see where the item is wrong.
-  void GoTo(landsmith::LatLon at);
+  void GoTo(const landsmith::Finding& finding);
 
 protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

@@ -93,13 +93,13 @@ void frmStart::ShowModeForm(std::optional<ModeId> mode) {
 
 void frmStart::ShowCompilation() {
   frmBGL form(m_session, m_editor->Canvas(), this);
-  connect(&form, &frmBGL::GoTo, this, [&](LatLon at) { GoToFinding(at, form); });
+  connect(&form, &frmBGL::GoTo, this, [&](const Finding& finding) { GoToFinding(finding, form); });
   form.exec();
+  m_editor->HideFinding();
 }
 
-/// The selection stays as it is: it says what will be compiled.
-void frmStart::GoToFinding(LatLon at, QDialog& form) {
-  m_editor->GoTo(at);
+void frmStart::GoToFinding(const Finding& finding, QDialog& form) {
+  m_editor->ShowFinding(finding);
   UncoverMiddle(form, *m_ui->canvas);
 }
 

@@ -3,8 +3,8 @@
 // is closed.
 #pragma once
 
+#include "compile/Findings.h"
 #include "compile/StepTable.h"
-#include "core/GeoTypes.h"
 #include "editor/Display.h"
 #include "editor/Session.h"
 #include "platform/Progress.h"
@@ -36,8 +36,8 @@ public:
   void reject() override;
 
 signals:
-  /// The user wants to see the place of a finding; the dialog stays.
-  void GoTo(landsmith::LatLon at);
+  /// The user wants to see where an item is wrong; the dialog stays.
+  void GoTo(const landsmith::Finding& finding);
 
 private:
   void EnableSteps();

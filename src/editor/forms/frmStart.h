@@ -92,7 +92,7 @@ private:
 
   // StartForms.cpp: forms beside the canvas
   void ShowCompilation();
-  void GoToFinding(LatLon at, QDialog& form);
+  void GoToFinding(const Finding& finding, QDialog& form);
   void ShowFind();
   void ShowGotoPosition();
   void ShowCoordinates();

@@ -6,6 +6,8 @@
 #include "forms/TexturePreview.h"
 #include "ui_frmTexPoly.h"
 
+#include <QCoreApplication>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QToolButton>
@@ -106,6 +108,14 @@ void frmTexPoly::TakeTyped() {
   if (typed != before) m_points.MoveTo(typed);
   if (x && y) ShowCurrent();
   m_ui->picTex->update();
+}
+
+void frmTexPoly::keyPressEvent(QKeyEvent* event) {
+  const bool chooses = event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown;
+  if (chooses && !m_ui->picTex->hasFocus())
+    QCoreApplication::sendEvent(m_ui->picTex, event);
+  else
+    QDialog::keyPressEvent(event);
 }
 
 void frmTexPoly::NudgeHeld() {

@@ -33,6 +33,10 @@ public:
 
   std::string Pairs() const { return m_points.Pairs(); }
 
+protected:
+  /// Page Up and Page Down choose a point wherever the focus is.
+  void keyPressEvent(QKeyEvent* event) override;
+
 private:
   QPixmap LoadBitmap(const std::string& name);
   void ConnectControls();

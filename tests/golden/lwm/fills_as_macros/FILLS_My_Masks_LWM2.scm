@@ -1,4 +1,4 @@
-Header( 1 56 -90 180 7 )
+Header( 1 56 54 9 7 )
 
 LWMFileHeader
 
