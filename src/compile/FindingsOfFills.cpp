@@ -29,7 +29,7 @@ void CheckItem(const FillRec& fill, ItemFindings& found) {
   if (fill.CellX < 0 || fill.CellX > LastCellX || fill.CellY < 0 || fill.CellY > LastCellY)
     found.Error(at, "The fill's Cell " + std::to_string(fill.CellX) + ", " + std::to_string(fill.CellY) +
                         " lies outside the world.");
-  if (fill.Type != LandFill) CheckMaskAltitude(static_cast<double>(fill.Height), at, found);
+  if (fill.Type != LandFill) CheckMaskAltitude(fill.Height, at, found);
 }
 
 }  // namespace landsmith

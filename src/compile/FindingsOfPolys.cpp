@@ -87,8 +87,13 @@ bool IsTakenAsWritten(std::string_view field, std::int32_t largest) {
   return number && *number <= largest && digits.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
-/// Points of one piece that a statement of masks takes.
+/// What the statements of a mask take: points of one piece, metres.
 constexpr std::size_t MostMaskPoints = 318;
+constexpr float LowestMaskAltitude = -32768, MaskAltitudesEnd = 32768;
+
+bool IsMaskAltitude(float metres) {
+  return metres >= LowestMaskAltitude && metres < MaskAltitudesEnd;
+}
 
 /// In one Area a ring that does not cross itself has its own vertices, two cuts an edge and four corners.
 bool MayHaveLargePiece(std::size_t vertices) {
@@ -96,9 +101,6 @@ bool MayHaveLargePiece(std::size_t vertices) {
 }
 
 constexpr const char* NoAltitude = "A vertex has an altitude that cannot be.";
-
-/// What a statement of masks takes.
-constexpr double LowestMaskAltitude = -32768, HighestMaskAltitude = 32767 + 127.0 / 128;
 
 /// Whether the polygon fits into a file. That of few Areas is not cut for it.
 bool IsTooLarge(const std::vector<PolyPoint>& points) {
@@ -191,6 +193,14 @@ private:
     return true;
   }
 
+  /// Of what is cut into Areas; into Cells even the world can be cut. False when it cannot be cut.
+  bool CheckOnAreas() {
+    if (!CheckOnPoints({})) return false;
+    if (!IsTooLarge(m_poly.Points)) return true;
+    m_found.Error(m_at, "The polygon is too large or too wild to be cut.");
+    return false;
+  }
+
   void CheckPieces() {
     if (!MayHaveLargePiece(m_poly.Points.size())) return;
     const ClippedPoly cut = ClipPolyToAreas(m_poly.Points, nullptr);
@@ -206,27 +216,19 @@ private:
                       ": simplify it there or split it.");
   }
 
-  /// Of what is cut into Areas; into Cells even the world can be cut. False when it cannot be cut.
-  bool CheckOnAreas() {
-    if (!CheckOnPoints({})) return false;
-    if (!IsTooLarge(m_poly.Points)) return true;
-    m_found.Error(m_at, "The polygon is too large or too wild to be cut.");
-    return false;
-  }
-
   void CheckAltitudes(const LwmPolyType& type) {
     const auto highest = ParseFloat(type.Highest), lowest = ParseFloat(type.Lowest);
     if (!highest || !lowest) {
       m_found.Error(m_at, "The altitude \"" + (highest ? type.Lowest : type.Highest) + "\" is no number.");
       return;
     }
-    CheckMaskAltitude(*ParseNumber(type.Highest), m_at, m_found);
-    if (*ParseNumber(type.Highest) == *ParseNumber(type.Lowest)) {
+    if (!IsMaskAltitude(*highest) || !IsMaskAltitude(*lowest)) {
+      CheckMaskAltitude(IsMaskAltitude(*highest) ? *lowest : *highest, m_at, m_found);
+    } else if (*ParseNumber(type.Highest) == *ParseNumber(type.Lowest)) {
       if (!IsLevel())
         m_found.Warn(m_at, "The polygon is compiled level at " + Metres(*highest) +
                                ", but its vertices have different altitudes.");
     } else {
-      CheckMaskAltitude(*ParseNumber(type.Lowest), m_at, m_found);
       if (const PolyPoint* odd = VertexWithoutAltitude(IsFinite)) m_found.Warn(ShownAt(*odd), NoAltitude);
       CheckSlope(type, Metres(*highest), Metres(*lowest));
     }
@@ -300,10 +302,9 @@ private:
 
 }  // namespace
 
-void CheckMaskAltitude(double altitude, LatLon at, ItemFindings& found) {
-  if (altitude >= LowestMaskAltitude && altitude <= HighestMaskAltitude) return;
-  found.Error(
-      at, "The altitude " + NumberText(static_cast<float>(altitude)) + " m is not from -32768 to 32767 m.");
+void CheckMaskAltitude(float metres, LatLon at, ItemFindings& found) {
+  if (!IsMaskAltitude(metres))
+    found.Error(at, "The altitude " + Metres(metres) + " is farther from sea level than the tool takes.");
 }
 
 void CheckItem(const PolyRec& poly, LatLon shift, ItemFindings& found) {

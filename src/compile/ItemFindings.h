@@ -36,7 +36,7 @@ void CheckItem(const PolyRec& poly, LatLon shift, ItemFindings& found);
 void CheckItem(const FillRec& fill, ItemFindings& found);
 
 /// Of a land or water mask, in metres.
-void CheckMaskAltitude(double altitude, LatLon at, ItemFindings& found);
+void CheckMaskAltitude(float metres, LatLon at, ItemFindings& found);
 
 /// Layer and texture of a line or polygon of vector terrain; `at` is where the item lies.
 void CheckVtpFields(const std::string& layer, const std::string& texture, LatLon at, ItemFindings& found);

@@ -192,7 +192,7 @@ TEST(FindingsOfPolys, ShapesFieldsAndAltitudes) {
        "LWM//Land//20//10//2//2//",
        Ramp,
        {"error The slope from 20 m to 10 m begins and ends at one place"}},
-      {"above the sky", "LWM//Land//40000//40000//1//1//", Square, {"error The altitude 40000 m is not"}},
+      {"above the sky", "LWM//Land//40000//40000//1//1//", Square, {"error The altitude 40000 m is farther"}},
       {"round the world",
        "LWM//Water//10//10//1//1//",
        {{-3e6, 4e4}, {3e6, 4e4}, {3e6, -4e4}, {-3e6, -4e4}},
