@@ -104,7 +104,10 @@ frmMapsP::frmMapsP(Session& session, Editor& editor, QWidget* parent)
   connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmMapsP::accept);
 }
 
-frmMapsP::~frmMapsP() = default;
+// A box that is left when the form goes speaks up once more: while all of it is still there.
+frmMapsP::~frmMapsP() {
+  hide();
+}
 
 void frmMapsP::ShowMap(std::size_t map) {
   m_map = map;

@@ -53,7 +53,10 @@ frmTexPoly::frmTexPoly(Session& session, const PolyRec& poly, const std::string&
   m_ui->picTex->setFocus();
 }
 
-frmTexPoly::~frmTexPoly() = default;
+// A box that is left when the form goes speaks up once more: while all of it is still there.
+frmTexPoly::~frmTexPoly() {
+  hide();
+}
 
 QPixmap frmTexPoly::LoadBitmap(const std::string& name) {
   if (name.empty()) return {};
