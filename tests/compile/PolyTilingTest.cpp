@@ -62,12 +62,12 @@ TEST(HardRings, AreTiledByCells) {
 
 // bench/tiling_long does the same with as many polygons as one likes.
 TEST(RandomPolys, AreTiledByMasks) {
-  for (std::uint64_t seed = 1; seed <= 1200; ++seed)
+  for (std::uint64_t seed = 1; seed <= 3000; ++seed)
     ASSERT_THAT(FaultsOfLake(MakeRandomPoly(seed, PointsPerArea).Points), IsEmpty()) << "seed " << seed;
 }
 
 TEST(RandomPolys, AreTiledByConvexTerrain) {
-  for (std::uint64_t seed = 1; seed <= 500; ++seed) {
+  for (std::uint64_t seed = 1; seed <= 1500; ++seed) {
     const RandomPoly poly = MakeRandomPoly(seed, PointsPerCell);
     ASSERT_THAT(FaultsOfTerrain(poly.Snapped, TerrainPieces(poly.Points)), IsEmpty()) << "seed " << seed;
   }
